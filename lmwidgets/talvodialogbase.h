@@ -1,0 +1,59 @@
+#ifndef LMWIDGETS_TALVODIALOGBASE_H
+#define LMWIDGETS_TALVODIALOGBASE_H
+
+#include <lmwidgets/lmwidgets_global.h>
+
+#include <QDialog>
+
+namespace LM {
+namespace Widgets {
+
+/**
+ * @class TalvoDialogBase talvodialogbase.h <lmwidgets/talvodialogbase.h>
+ *
+ * @brief The root of dialogs that follow the theme.
+ *
+ * A dialog derived from this class is registered with TalvoStyleManager when it is constructed. On each
+ * TalvoStyleManager::shiftStyle() its initStyleSheet() is called, once per switch, until the dialog is
+ * destroyed or the manager's disconnectAllSignals() is called.
+ *
+ * @code
+ * class Report : public LM::Widgets::TalvoDialogBase
+ * {
+ * public:
+ *     void initStyleSheet() override { setStyleSheet(sheetFor(manager()->currentStyle())); }
+ * };
+ * @endcode
+ */
+class LMWIDGETS_EXPORT TalvoDialogBase : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /**
+     * Constructs a dialog with @p flags and Qt::BypassWindowManagerHint, and registers it with the style
+     * manager. @p parent may be null; otherwise it owns the dialog.
+     */
+    explicit TalvoDialogBase(QWidget *parent = nullptr, Qt::WindowFlags flags = Qt::WindowFlags());
+    ~TalvoDialogBase() override;
+
+    /**
+     * Sets the style sheet for the current theme. Called on each theme switch, not by the constructor.
+     *
+     * An implementation may switch the theme itself: the call for that second switch follows when it
+     * has returned, so it is not entered twice at once. It may also destroy the dialog.
+     */
+    virtual void initStyleSheet() = 0;
+
+public Q_SLOTS:
+    /** Calls initStyleSheet(). The style manager's themeStyleShift() is connected to it. */
+    void onInitStyleSheet();
+
+private:
+    Q_DISABLE_COPY(TalvoDialogBase)
+};
+
+} // namespace Widgets
+} // namespace LM
+
+#endif

@@ -1,0 +1,70 @@
+#include "lmtest.h"
+
+#include <QFont>
+#include <QHoverEvent>
+#include <QMouseEvent>
+#include <QStyle>
+#include <QStyleFactory>
+
+namespace lmtest {
+
+namespace {
+
+QtMessageHandler nextHandler = nullptr;
+
+void handleMessage(QtMsgType type, const QMessageLogContext &context, const QString &message)
+{
+    if (message.startsWith(QLatin1String("This plugin does not support "))) {
+        return;
+    }
+    nextHandler(type, context, message);
+}
+
+} // namespace
+
+void ignorePlatformChatter()
+{
+    const QtMessageHandler previous = qInstallMessageHandler(handleMessage);
+    if (previous != handleMessage) {
+        nextHandler = previous;
+    }
+}
+
+void mouse(QWidget *widget, QEvent::Type type, const QPoint &pos, Qt::MouseButton button,
+    Qt::MouseButtons buttons, Qt::KeyboardModifiers modifiers)
+{
+    mouseAt(widget, type, widget->mapToGlobal(pos), button, buttons, modifiers);
+}
+
+void mouseAt(QWidget *widget, QEvent::Type type, const QPoint &globalPos, Qt::MouseButton button,
+    Qt::MouseButtons buttons, Qt::KeyboardModifiers modifiers)
+{
+    if (type == QEvent::MouseMove) {
+        button = Qt::NoButton;
+    } else if (type == QEvent::MouseButtonRelease) {
+        buttons &= ~Qt::MouseButtons(button);
+    }
+    QMouseEvent event(type, widget->mapFromGlobal(globalPos), globalPos, button, buttons, modifiers);
+    QApplication::sendEvent(widget, &event);
+}
+
+void hoverMove(QWidget *widget, const QPoint &pos)
+{
+    QHoverEvent event(QEvent::HoverMove, pos, pos);
+    QApplication::sendEvent(widget, &event);
+}
+
+QString themeDir()
+{
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/theme");
+}
+
+void prepareApplication()
+{
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QFont font(QStringLiteral("DejaVu Sans"));
+    font.setPixelSize(13);
+    QApplication::setFont(font);
+}
+
+} // namespace lmtest
