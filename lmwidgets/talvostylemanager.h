@@ -42,7 +42,7 @@ class LMWIDGETS_EXPORT TalvoStyleManager : public QObject
 
 public:
     /** The colour themes. Any other value counts as Black when a path is built. */
-    enum ThemeStyleType {
+    enum ThemeStyleType : int {
         Black = 0, ///< images in "/theme/Black/"; the theme at start
         White = 1, ///< images in "/theme/White/"
         Blue = 2   ///< images in "/theme/Blue/"
