@@ -11,6 +11,10 @@ namespace Widgets {
 
 namespace {
 
+// How often one switch may be followed by others that initStyleSheet() makes itself: enough for any
+// implementation that settles on a theme, and an end for one that never does.
+constexpr int MaximumRebuilds = 8;
+
 /** Dialogs whose initStyleSheet() is running, and whether a switch arrived for them meanwhile. */
 QHash<TalvoDialogBase *, bool> &runningRebuilds()
 {
@@ -46,12 +50,20 @@ void TalvoDialogBase::onInitStyleSheet()
     }
 
     const QPointer<TalvoDialogBase> guard(this);
+    TalvoStyleManager *manager = TalvoStyleManager::instance().data();
     rebuilds.insert(this, false);
-    initStyleSheet();
-    if (guard && rebuilds.value(this)) {
-        // Once, and not until it stops asking: an implementation that switches the theme each time it
-        // is called would never end.
+    for (int count = 0; count < MaximumRebuilds; ++count) {
+        const TalvoStyleManager::ThemeStyleType style = manager->currentStyle();
         initStyleSheet();
+        if (!guard || !rebuilds.value(this)) {
+            break;
+        }
+        // The switch that came meanwhile gets its call now. Later ones get theirs as long as they
+        // change something: an implementation that switches each time it is called would never end.
+        if (count > 0 && manager->currentStyle() == style) {
+            break;
+        }
+        rebuilds[this] = false;
     }
     if (guard) {
         rebuilds.remove(this);
