@@ -68,9 +68,9 @@ QStringList ownMethods(const QMetaObject &metaObject)
             parameters.append(QString::fromLatin1(name.isEmpty() ? type : type + ' ' + name));
         }
         const bool isSignal = method.methodType() == QMetaMethod::Signal;
-        methods.append(QLatin1String(isSignal ? "signal " : "slot ")
-            + QString::fromLatin1(method.name()) + QLatin1Char('(')
-            + parameters.join(QLatin1String(", ")) + QLatin1Char(')'));
+        methods.append(QLatin1String(isSignal ? "signal " : "slot ") +
+                       QString::fromLatin1(method.name()) + QLatin1Char('(') +
+                       parameters.join(QLatin1String(", ")) + QLatin1Char(')'));
     }
     return methods;
 }
