@@ -48,7 +48,8 @@ const char MessageBoxTitleStyle[] =
 
 FramelessDialogPrivate::FramelessDialogPrivate(FramelessDialog *dialog) :
     q(dialog),
-    keyboardActivation(dialog)
+    keyboardActivation(dialog),
+    unmanagedWindowState(dialog)
 {
 }
 

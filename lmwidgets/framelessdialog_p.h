@@ -2,6 +2,7 @@
 #define LMWIDGETS_FRAMELESSDIALOG_P_H
 
 #include "keyboardactivation_p.h"
+#include "unmanagedwindowstate_p.h"
 
 #include <QLayout>
 #include <QObject>
@@ -50,6 +51,7 @@ public:
     QPointer<QLayout> contentLayout;
     FramelessHelper *helper = nullptr;
     KeyboardActivation keyboardActivation;
+    UnmanagedWindowState unmanagedWindowState;
 };
 
 } // namespace Widgets
