@@ -104,9 +104,9 @@ void UnmanagedWindowState::fillScreen()
 void UnmanagedWindowState::restoreGeometry()
 {
     m_fillsScreen = false;
+    m_dialog->setGeometry(m_normalGeometry);
     m_dialog->setMinimumSize(m_normalMinimum);
     m_dialog->setMaximumSize(m_normalMaximum);
-    m_dialog->setGeometry(m_normalGeometry);
 }
 
 void UnmanagedWindowState::minimizeWithOwner()

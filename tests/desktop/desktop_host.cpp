@@ -10,12 +10,11 @@
 
 #include <QApplication>
 #include <QComboBox>
-#include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScopedPointer>
 #include <QStyleFactory>
-#include <QTimer>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -62,6 +61,7 @@ FramelessDialog *makeDialog(QWidget *parent)
     dialog->setObjectName(QStringLiteral("dialog"));
     dialog->setWindowTitle(QStringLiteral("Layer"));
 
+    QLineEdit *edit = makeEdit(QStringLiteral("edit"));
     auto *box = new QComboBox;
     box->setObjectName(QStringLiteral("box"));
     box->addItems({QStringLiteral("red"), QStringLiteral("green"), QStringLiteral("blue")});
@@ -69,7 +69,7 @@ FramelessDialog *makeDialog(QWidget *parent)
 
     auto *layout = new QVBoxLayout;
     layout->setContentsMargins(16, 16, 16, 16);
-    layout->addWidget(makeEdit(QStringLiteral("edit")));
+    layout->addWidget(edit);
     layout->addWidget(box);
     layout->addWidget(makeEdit(QStringLiteral("second")));
     layout->addStretch();
@@ -88,6 +88,7 @@ FramelessDialog *makeDialog(QWidget *parent)
 
     dialog->move(DialogPosition);
     dialog->resize(DialogSize);
+    edit->setFocus();
     return dialog;
 }
 
@@ -141,38 +142,43 @@ void runOther()
     window->show();
 }
 
-void runModeless(bool shownAtOnce)
+/** A window whose button shows the dialog, which is its child or has no parent. */
+FramelessDialog *runWithMain(bool isChild)
 {
     QWidget *main = makeMain(QStringLiteral("main"));
     main->show();
-    FramelessDialog *dialog = makeDialog(main);
+    FramelessDialog *dialog = makeDialog(isChild ? main : nullptr);
     QObject::connect(main->findChild<QPushButton *>(), &QPushButton::clicked, dialog,
                      [dialog] { dialog->show(); });
-    if (shownAtOnce) {
-        dialog->show();
-    }
+    return dialog;
 }
 
+/** A window whose button runs the dialog as hosts do: on the stack of a slot, until it has ended.
+ */
 void runModal()
 {
-    runModeless(false);
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    for (QWidget *window : windows) {
-        if (auto *dialog = qobject_cast<FramelessDialog *>(window)) {
-            dialog->setModal(true);
-        }
-    }
+    QWidget *main = makeMain(QStringLiteral("main"));
+    main->show();
+    QObject::connect(main->findChild<QPushButton *>(), &QPushButton::clicked, main, [main] {
+        const QScopedPointer<FramelessDialog> dialog(makeDialog(main));
+        dialog->setMinButtonVisible(true);
+        Reporter::say(QStringLiteral("exec %1").arg(dialog->exec()));
+    });
 }
 
-void runTitleButtons(QWidget *parent)
+FramelessDialog *makeDialogWithTitleButtons(QWidget *parent)
 {
-    if (parent) {
-        parent->show();
-    }
     FramelessDialog *dialog = makeDialog(parent);
     dialog->setMinButtonVisible(true);
     dialog->setMaxButtonVisible(true);
-    dialog->show();
+    return dialog;
+}
+
+void runTitleButtonsWithParent()
+{
+    QWidget *main = makeMain(QStringLiteral("main"));
+    main->show();
+    makeDialogWithTitleButtons(main)->show();
 }
 
 QHash<QString, std::function<void()>> scenarios()
@@ -183,11 +189,13 @@ QHash<QString, std::function<void()>> scenarios()
         {QStringLiteral("resizable-band"), [] { runResizable(true); }},
         {QStringLiteral("cursors"), runCursors},
         {QStringLiteral("other"), runOther},
-        {QStringLiteral("modeless"), [] { runModeless(false); }},
+        {QStringLiteral("modeless"), [] { runWithMain(true); }},
+        {QStringLiteral("parentless"), [] { runWithMain(false); }},
         {QStringLiteral("modal"), runModal},
-        {QStringLiteral("title-buttons"), [] { runTitleButtons(nullptr); }},
-        {QStringLiteral("title-buttons-parent"),
-         [] { runTitleButtons(makeMain(QStringLiteral("main"))); }},
+        {QStringLiteral("title-buttons"), [] { makeDialogWithTitleButtons(nullptr)->show(); }},
+        {QStringLiteral("title-buttons-parent"), runTitleButtonsWithParent},
+        {QStringLiteral("maximized-first"),
+         [] { makeDialogWithTitleButtons(nullptr)->showMaximized(); }},
     };
 }
 

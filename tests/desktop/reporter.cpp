@@ -6,6 +6,7 @@
 #include <QDialog>
 #include <QEvent>
 #include <QLineEdit>
+#include <QRubberBand>
 #include <QSocketNotifier>
 #include <QTextStream>
 #include <QWidget>
@@ -94,10 +95,14 @@ void Reporter::follow(QDialog *dialog)
 bool Reporter::eventFilter(QObject *watched, QEvent *event)
 {
     auto *window = qobject_cast<QWidget *>(watched);
-    if (!window || !window->isWindow() || window->objectName().isEmpty()) {
+    if (!window || !window->isWindow()) {
         return false;
     }
-    const QString name = window->objectName();
+    const QString name =
+        qobject_cast<QRubberBand *>(window) ? QStringLiteral("band") : window->objectName();
+    if (name.isEmpty()) {
+        return false;
+    }
     switch (event->type()) {
     case QEvent::Paint:
         if (!m_painted.contains(window)) {

@@ -14,7 +14,8 @@ QT_END_NAMESPACE
 
 /**
  * Tells the driver on standard output what happens in the host, one line for each event, and
- * answers the questions that it asks on standard input. Widgets are called by their object names.
+ * answers the questions that it asks on standard input. Widgets are called by their object names,
+ * rubber bands "band".
  *
  *     painted NAME X Y W H       a window stands on the screen
  *     geometry NAME X Y W H      a window was moved or resized
