@@ -46,7 +46,7 @@ const char MessageBoxTitleStyle[] =
 } // namespace
 
 FramelessDialogPrivate::FramelessDialogPrivate(FramelessDialog *dialog)
-    : q(dialog), keyboardActivation(dialog)
+    : q(dialog), keyboardActivation(dialog), unmanagedWindowState(dialog)
 {
 }
 

@@ -2,6 +2,7 @@
 #define LMWIDGETS_FRAMELESSDIALOG_P_H
 
 #include "keyboardactivation_p.h"
+#include "unmanagedwindowstate_p.h"
 
 #include <QLayout>
 #include <QObject>
@@ -60,6 +61,7 @@ public:
     FramelessHelper *helper = nullptr;
     bool tabOrderSettled = false;
     KeyboardActivation keyboardActivation;
+    UnmanagedWindowState unmanagedWindowState;
 };
 
 } // namespace Widgets
