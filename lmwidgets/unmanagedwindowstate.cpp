@@ -18,14 +18,20 @@ UnmanagedWindowState::UnmanagedWindowState(QWidget *dialog) : m_dialog(dialog)
 
 bool UnmanagedWindowState::eventFilter(QObject *watched, QEvent *event)
 {
+    const QPointer<QObject> guard(watched);
     if (watched == m_owner) {
         if (event->type() == QEvent::WindowStateChange && !m_owner->isMinimized()) {
             comeBack();
         }
     } else if (watched == m_dialog && isUnmanaged()) {
+        if (m_fillingScreen) {
+            // The second word of one and the same change, see fillScreen().
+            return event->type() == QEvent::WindowStateChange;
+        }
         followDialog(event);
     }
-    return false;
+    // Host code that ran meanwhile may have destroyed the dialog: nobody is left to take the event.
+    return guard.isNull();
 }
 
 void UnmanagedWindowState::followDialog(QEvent *event)
@@ -47,16 +53,37 @@ void UnmanagedWindowState::followDialog(QEvent *event)
                 this, [this] { adoptState(); }, Qt::QueuedConnection);
         }
         break;
+    case QEvent::MouseButtonPress:
+        m_pressedMaximized = m_fillsScreen && m_dialog->isMaximized();
+        break;
     case QEvent::MouseButtonRelease:
-        // QWidget::move() makes a maximised window normal without telling anybody. The dialog is
-        // still maximised for the user who dragged it: it goes back, and its restore button is
-        // right.
-        if (m_fillsScreen && !m_dialog->isMaximized()) {
-            m_dialog->setWindowState(m_dialog->windowState() | Qt::WindowMaximized);
+        if (m_pressedMaximized) {
+            endDrag();
+        }
+        break;
+    case QEvent::Move:
+    case QEvent::Resize:
+        if (m_fillsScreen && !m_dialog->isMaximized() && !m_pressedMaximized) {
+            // The host gave it another geometry, which ends the maximised state.
+            m_fillsScreen = false;
+            m_dialog->setMinimumSize(m_normalMinimum);
+            m_dialog->setMaximumSize(m_normalMaximum);
         }
         break;
     default:
         break;
+    }
+}
+
+/**
+ * QWidget::move() makes a maximised window normal without telling anybody. For the user who dragged
+ * the dialog, and for its title bar, it is still maximised: it goes back.
+ */
+void UnmanagedWindowState::endDrag()
+{
+    m_pressedMaximized = false;
+    if (m_fillsScreen && !m_dialog->isMaximized()) {
+        fillScreen();
     }
 }
 
@@ -97,16 +124,27 @@ void UnmanagedWindowState::fillScreen()
         m_dialog->setMinimumSize(0, 0);
         m_dialog->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
     }
-    // The window and not the dialog: QWidget::setGeometry() would end the maximised state.
-    m_dialog->windowHandle()->setGeometry(m_dialog->screen()->availableGeometry());
+    // QWidget::setGeometry() ends the maximised state without telling anybody. Going round it by
+    // way of the QWindow leaves the widget with a stale geometry when the X server's answers
+    // overtake a move.
+    const QPointer<UnmanagedWindowState> guard(this);
+    m_fillingScreen = true;
+    m_dialog->setGeometry(m_dialog->screen()->availableGeometry());
+    if (guard) {
+        m_dialog->setWindowState(m_dialog->windowState() | Qt::WindowMaximized);
+        m_fillingScreen = false;
+    }
 }
 
 void UnmanagedWindowState::restoreGeometry()
 {
+    const QPointer<UnmanagedWindowState> guard(this);
     m_fillsScreen = false;
     m_dialog->setGeometry(m_normalGeometry);
-    m_dialog->setMinimumSize(m_normalMinimum);
-    m_dialog->setMaximumSize(m_normalMaximum);
+    if (guard) {
+        m_dialog->setMinimumSize(m_normalMinimum);
+        m_dialog->setMaximumSize(m_normalMaximum);
+    }
 }
 
 void UnmanagedWindowState::minimizeWithOwner()
@@ -114,9 +152,10 @@ void UnmanagedWindowState::minimizeWithOwner()
     if (!m_dialog->isMinimized() || !m_dialog->isVisible()) {
         return;
     }
-    QWidget *owner = managedOwner();
+    const QPointer<UnmanagedWindowState> guard(this);
+    const QPointer<QWidget> owner = managedOwner();
     m_dialog->setWindowState(m_dialog->windowState() & ~Qt::WindowMinimized);
-    if (!owner) {
+    if (!guard || !owner) {
         return;
     }
     if (m_owner) {
@@ -126,7 +165,9 @@ void UnmanagedWindowState::minimizeWithOwner()
     m_owner->installEventFilter(this);
     // The window and not the dialog is hidden: hiding a dialog ends its exec().
     m_dialog->windowHandle()->setVisible(false);
-    owner->setWindowState(owner->windowState() | Qt::WindowMinimized);
+    if (owner) {
+        owner->setWindowState(owner->windowState() | Qt::WindowMinimized);
+    }
 }
 
 void UnmanagedWindowState::comeBack()

@@ -39,6 +39,7 @@ private:
     QWidget *managedOwner() const;
     void followDialog(QEvent *event);
     void adoptState();
+    void endDrag();
     void fillScreen();
     void restoreGeometry();
     void minimizeWithOwner();
@@ -47,6 +48,8 @@ private:
     QWidget *m_dialog;
     QPointer<QWidget> m_owner;
     bool m_fillsScreen = false;
+    bool m_fillingScreen = false;
+    bool m_pressedMaximized = false;
     QRect m_normalGeometry;
     QSize m_normalMinimum;
     QSize m_normalMaximum;

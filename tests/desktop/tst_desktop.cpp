@@ -18,6 +18,7 @@
 
 namespace {
 
+constexpr int TimeoutMs = 10000;
 constexpr QRect DialogRect(300, 150, 420, 300);
 constexpr QRect ScreenRect(0, 0, 1280, 900);
 
@@ -79,6 +80,7 @@ private Q_SLOTS:
 
     void maximizeAndRestore();
     void maximizedStaysMaximizedWhenDragged();
+    void hostEndsTheMaximizedState();
     void shownMaximizedFirst();
     void minimizeTakesTheParentAlong();
     void minimizeModalKeepsItRunning();
@@ -160,7 +162,7 @@ void tst_Desktop::openFromMain(Host &host)
 /** Waits until the mouse pointer looks like @p picture. */
 void tst_Desktop::expectPointer(const QString &picture)
 {
-    QTRY_COMPARE_WITH_TIMEOUT(m_desktop.pointerPicture(), picture, 15000);
+    QTRY_COMPARE_WITH_TIMEOUT(m_desktop.pointerPicture(), picture, TimeoutMs);
 }
 
 void tst_Desktop::dragByTheTitleArea_data()
@@ -312,7 +314,7 @@ void tst_Desktop::resizeCursors()
             const QRect label = host.where(name);
             QVERIFY2(label.isValid(), qPrintable(host.report(name)));
             STEP(input(QLatin1String("mousemove ") + pointText(label.center())));
-            QTRY_VERIFY_WITH_TIMEOUT(m_desktop.pointerPicture() != previous, 15000);
+            QTRY_VERIFY_WITH_TIMEOUT(m_desktop.pointerPicture() != previous, TimeoutMs);
             previous = m_desktop.pointerPicture();
             pictures.insert(name, previous);
         }
@@ -462,11 +464,11 @@ void tst_Desktop::comboBoxByMouse()
     STEP(openFromMain(host));
     STEP(click(host, QStringLiteral("box")));
     QRect popup;
-    QTRY_VERIFY_WITH_TIMEOUT((popup = host.popup()).isValid(), 15000);
+    QTRY_VERIFY_WITH_TIMEOUT((popup = host.popup()).isValid(), TimeoutMs);
     // Three entries; the last is in the lowest sixth of the popup.
     STEP(clickAt(QPoint(popup.center().x(), popup.bottom() - popup.height() / 6)));
     STEP(expect(host, QStringLiteral("choice box blue")));
-    QTRY_VERIFY_WITH_TIMEOUT(!host.popup().isValid(), 15000);
+    QTRY_VERIFY_WITH_TIMEOUT(!host.popup().isValid(), TimeoutMs);
 
     STEP(click(host, QStringLiteral("edit")));
     STEP(expect(host, QStringLiteral("focus edit")));
@@ -481,16 +483,16 @@ void tst_Desktop::comboBoxByKeys()
     STEP(key(QStringLiteral("Tab")));
     STEP(expect(host, QStringLiteral("focus box")));
     STEP(key(QStringLiteral("space")));
-    QTRY_VERIFY_WITH_TIMEOUT(host.popup().isValid(), 15000);
+    QTRY_VERIFY_WITH_TIMEOUT(host.popup().isValid(), TimeoutMs);
     STEP(input(QStringLiteral("key Down Return")));
     STEP(expect(host, QStringLiteral("choice box green")));
-    QTRY_VERIFY_WITH_TIMEOUT(!host.popup().isValid(), 15000);
+    QTRY_VERIFY_WITH_TIMEOUT(!host.popup().isValid(), TimeoutMs);
 
     // Escape closes the popup and not the dialog.
     STEP(key(QStringLiteral("space")));
-    QTRY_VERIFY_WITH_TIMEOUT(host.popup().isValid(), 15000);
+    QTRY_VERIFY_WITH_TIMEOUT(host.popup().isValid(), TimeoutMs);
     STEP(key(QStringLiteral("Escape")));
-    QTRY_VERIFY_WITH_TIMEOUT(!host.popup().isValid(), 15000);
+    QTRY_VERIFY_WITH_TIMEOUT(!host.popup().isValid(), TimeoutMs);
     STEP(key(QStringLiteral("Up")));
     STEP(expect(host, QStringLiteral("choice box red")));
     STEP(expectNot(host, QStringLiteral("finished dialog .*")));
@@ -552,6 +554,24 @@ void tst_Desktop::maximizedStaysMaximizedWhenDragged()
     QVERIFY(host.where(QStringLiteral("maximize")).isValid());
 }
 
+void tst_Desktop::hostEndsTheMaximizedState()
+{
+    Host host(m_desktop, QStringLiteral("title-buttons"));
+    STEP(showDialog(host));
+    STEP(click(host, QStringLiteral("maximize")));
+    STEP(expectGeometry(host, QStringLiteral("dialog"), ScreenRect));
+
+    // Its size is frozen at the one that it was shown with.
+    host.order(QStringLiteral("move dialog"));
+    const QRect moved(QPoint(20, 20), DialogRect.size());
+    STEP(expectGeometry(host, QStringLiteral("dialog"), moved));
+    STEP(click(host, QStringLiteral("second")));
+    STEP(expect(host, QStringLiteral("focus second")));
+    STEP(type(QStringLiteral("a")));
+    STEP(expect(host, QStringLiteral("text second a")));
+    QCOMPARE(host.lastGeometry(QStringLiteral("dialog")), moved);
+}
+
 void tst_Desktop::shownMaximizedFirst()
 {
     Host host(m_desktop, QStringLiteral("maximized-first"));
@@ -573,7 +593,8 @@ void tst_Desktop::minimizeTakesTheParentAlong()
     STEP(expect(host, QStringLiteral("hidden dialog")));
     STEP(expect(host, QStringLiteral("state main minimized")));
     QTRY_VERIFY_WITH_TIMEOUT(
-        m_desktop.xdotool(QStringLiteral("search --onlyvisible --name ^main$")).isEmpty(), 15000);
+        m_desktop.xdotool(QStringLiteral("search --onlyvisible --name ^main$")).isEmpty(),
+        TimeoutMs);
     QVERIFY(!host.where(QStringLiteral("dialog")).isValid());
     STEP(expectNot(host, QStringLiteral("finished .*")));
 
@@ -596,7 +617,8 @@ void tst_Desktop::minimizeModalKeepsItRunning()
     STEP(click(host, QStringLiteral("minimize")));
     STEP(expect(host, QStringLiteral("state main minimized")));
     QTRY_VERIFY_WITH_TIMEOUT(
-        m_desktop.xdotool(QStringLiteral("search --onlyvisible --name ^main$")).isEmpty(), 15000);
+        m_desktop.xdotool(QStringLiteral("search --onlyvisible --name ^main$")).isEmpty(),
+        TimeoutMs);
     STEP(input(QLatin1String("windowactivate ") + main));
     STEP(showDialog(host));
     STEP(expectNot(host, QStringLiteral("(exec|finished) .*")));
