@@ -166,6 +166,25 @@ void runModal()
     });
 }
 
+/** A dialog whose button runs another dialog above it. */
+void runNested()
+{
+    FramelessDialog *dialog = runWithMain(true);
+    dialog->setModal(true);
+    auto *button = new QPushButton(QStringLiteral("More"));
+    button->setObjectName(QStringLiteral("more"));
+    dialog->bottomLayout()->insertWidget(0, button);
+    QObject::connect(button, &QPushButton::clicked, dialog, [dialog] {
+        FramelessDialog inner(dialog);
+        inner.setObjectName(QStringLiteral("inner"));
+        auto *layout = new QVBoxLayout;
+        layout->addWidget(makeEdit(QStringLiteral("inner-edit")));
+        inner.setLayout(layout);
+        inner.findChild<QLineEdit *>()->setFocus();
+        Reporter::say(QStringLiteral("exec %1").arg(inner.exec()));
+    });
+}
+
 FramelessDialog *makeDialogWithTitleButtons(QWidget *parent)
 {
     FramelessDialog *dialog = makeDialog(parent);
@@ -192,6 +211,7 @@ QHash<QString, std::function<void()>> scenarios()
         {QStringLiteral("modeless"), [] { runWithMain(true); }},
         {QStringLiteral("parentless"), [] { runWithMain(false); }},
         {QStringLiteral("modal"), runModal},
+        {QStringLiteral("nested"), runNested},
         {QStringLiteral("title-buttons"), [] { makeDialogWithTitleButtons(nullptr)->show(); }},
         {QStringLiteral("title-buttons-parent"), runTitleButtonsWithParent},
         {QStringLiteral("maximized-first"),

@@ -72,6 +72,7 @@ private Q_SLOTS:
     void clickTakesTheKeyboardBack();
     void keyboardReturnsToTheMainWindow_data();
     void keyboardReturnsToTheMainWindow();
+    void keyboardReturnsToTheDialogBelow();
     void keyboardStaysWithAnotherApplication();
     void tabOrder();
     void comboBoxByMouse();
@@ -415,6 +416,31 @@ void tst_Desktop::keyboardReturnsToTheMainWindow()
     STEP(expect(host, QStringLiteral("focus main-edit")));
     STEP(type(QStringLiteral("c")));
     STEP(expect(host, QStringLiteral("text main-edit c")));
+}
+
+void tst_Desktop::keyboardReturnsToTheDialogBelow()
+{
+    Host host(m_desktop, QStringLiteral("nested"));
+    STEP(openFromMain(host));
+    for (int i = 0; i < 2; ++i) {
+        host.mark();
+        STEP(click(host, QStringLiteral("more")));
+        STEP(expect(host, QStringLiteral("painted inner .*")));
+        STEP(expect(host, QStringLiteral("active inner")));
+        STEP(type(QStringLiteral("in")));
+        STEP(expect(host, QStringLiteral("text inner-edit in")));
+        host.mark();
+        STEP(key(QStringLiteral("Return")));
+        STEP(expect(host, QStringLiteral("exec 1")));
+        STEP(expect(host, QStringLiteral("active dialog")));
+        STEP(expectNot(host, QStringLiteral("finished dialog .*")));
+    }
+    STEP(click(host, QStringLiteral("edit")));
+    STEP(type(QStringLiteral("a")));
+    STEP(expect(host, QStringLiteral("text edit a")));
+    STEP(key(QStringLiteral("Escape")));
+    STEP(expect(host, QStringLiteral("finished dialog 0")));
+    STEP(expect(host, QStringLiteral("active main")));
 }
 
 void tst_Desktop::keyboardStaysWithAnotherApplication()
