@@ -5,6 +5,8 @@
 #include <QVariant>
 #include <QVBoxLayout>
 
+#include <limits>
+
 namespace LM {
 namespace Widgets {
 
@@ -15,7 +17,8 @@ QFrame *createLine(const QString &propertyName, QWidget *parent, int lineWidth)
 {
     auto *line = new QFrame(parent);
     line->setFrameShadow(QFrame::Plain);
-    line->setLineWidth(lineWidth);
+    // QFrame keeps it in a short, in which a larger one would come out negative.
+    line->setLineWidth(qMin<int>(lineWidth, std::numeric_limits<short>::max()));
     if (!propertyName.isEmpty()) {
         line->setProperty(propertyName.toUtf8().constData(), true);
     }
@@ -39,12 +42,13 @@ void placeInBox(QFrame *line, QBoxLayout *box)
 } // namespace
 
 QFrame *FrameLine::createHorizontalLine(const QString &propertyName, QWidget *parent,
-    const unsigned int &lineWidth, const unsigned int &crossMargin,
-    const unsigned int &lengthMargin)
+                                        const unsigned int &lineWidth,
+                                        const unsigned int &crossMargin,
+                                        const unsigned int &lengthMargin)
 {
     auto *box = new QHBoxLayout;
     box->setContentsMargins(toPixels(lengthMargin), toPixels(crossMargin), toPixels(lengthMargin),
-        toPixels(crossMargin));
+                            toPixels(crossMargin));
 
     QFrame *line = createLine(propertyName, parent, toPixels(lineWidth));
     line->setFixedHeight(toPixels(lineWidth));
@@ -54,12 +58,13 @@ QFrame *FrameLine::createHorizontalLine(const QString &propertyName, QWidget *pa
 }
 
 QFrame *FrameLine::createVerticalLine(const QString &propertyName, QWidget *parent,
-    const unsigned int &lineWidth, const unsigned int &crossMargin,
-    const unsigned int &lengthMargin)
+                                      const unsigned int &lineWidth,
+                                      const unsigned int &crossMargin,
+                                      const unsigned int &lengthMargin)
 {
     auto *box = new QVBoxLayout;
     box->setContentsMargins(toPixels(crossMargin), toPixels(lengthMargin), toPixels(crossMargin),
-        toPixels(lengthMargin));
+                            toPixels(lengthMargin));
 
     QFrame *line = createLine(propertyName, parent, toPixels(lineWidth));
     line->setFixedWidth(toPixels(lineWidth));

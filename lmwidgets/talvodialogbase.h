@@ -13,15 +13,18 @@ namespace Widgets {
  *
  * @brief The root of dialogs that follow the theme.
  *
- * A dialog derived from this class is registered with TalvoStyleManager when it is constructed. On each
- * TalvoStyleManager::shiftStyle() its initStyleSheet() is called, once per switch, until the dialog is
- * destroyed or the manager's disconnectAllSignals() is called.
+ * A dialog derived from this class is registered with TalvoStyleManager when it is constructed. On
+ * each TalvoStyleManager::shiftStyle() its initStyleSheet() is called, once per switch, until the
+ * dialog is destroyed or the manager's disconnectAllSignals() is called.
  *
  * @code
  * class Report : public LM::Widgets::TalvoDialogBase
  * {
  * public:
- *     void initStyleSheet() override { setStyleSheet(sheetFor(manager()->currentStyle())); }
+ *     void initStyleSheet() override
+ *     {
+ *         setStyleSheet(sheetFor(LM::Widgets::TalvoStyleManager::instance()->currentStyle()));
+ *     }
  * };
  * @endcode
  */
@@ -31,17 +34,19 @@ class LMWIDGETS_EXPORT TalvoDialogBase : public QDialog
 
 public:
     /**
-     * Constructs a dialog with @p flags and Qt::BypassWindowManagerHint, and registers it with the style
-     * manager. @p parent may be null; otherwise it owns the dialog.
+     * Constructs a dialog with @p flags and Qt::BypassWindowManagerHint, and registers it with the
+     * style manager. @p parent may be null; otherwise it owns the dialog.
      */
     explicit TalvoDialogBase(QWidget *parent = nullptr, Qt::WindowFlags flags = Qt::WindowFlags());
     ~TalvoDialogBase() override;
 
     /**
-     * Sets the style sheet for the current theme. Called on each theme switch, not by the constructor.
+     * Sets the style sheet for the current theme. Called on each theme switch, not by the
+     * constructor.
      *
-     * An implementation may switch the theme itself: the call for that second switch follows when it
-     * has returned, so it is not entered twice at once. It may also destroy the dialog.
+     * An implementation may destroy the dialog, and may switch the theme itself: it is not entered
+     * again from within, but called once more when it has returned, until the theme no longer
+     * changes; after eight calls it is left alone until the next switch.
      */
     virtual void initStyleSheet() = 0;
 
