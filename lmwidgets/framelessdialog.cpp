@@ -418,8 +418,8 @@ void FramelessDialog::setMessageboxStyleSheet()
 {
     QToolButton *logo = d->titleBar->getButtonByType(TitleBar::LogoButton);
     QLabel *title = d->titleBar->titleLabel();
-    // A message box calls this from within its layout. Each setStyleSheet(), also with the same text,
-    // asks for another layout; without the comparison that would never end.
+    // A message box calls this from within its layout. Each setStyleSheet(), also with the same
+    // text, asks for another layout; without the comparison that would never end.
     if (logo->styleSheet() != QLatin1String(MessageBoxLogoStyle)) {
         logo->setStyleSheet(QLatin1String(MessageBoxLogoStyle));
     }
