@@ -112,6 +112,11 @@ void FramelessDialogPrivate::putButtonsLastInTabOrder()
         return;
     }
     tabOrderSettled = true;
+    if (okButton->isHidden() && cancelButton->isHidden() && applyButton->isHidden()) {
+        // A message box has buttons of its own in this row. Moving the hidden ones behind the
+        // content would give the keyboard to its leftmost button in place of the one that accepts.
+        return;
+    }
     if (okButton->nextInFocusChain() != cancelButton ||
         cancelButton->nextInFocusChain() != applyButton) {
         return;

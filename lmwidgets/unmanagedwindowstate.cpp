@@ -9,6 +9,30 @@
 namespace LM {
 namespace Widgets {
 
+namespace {
+
+bool bypassesWindowManager(const QWidget *window)
+{
+    return window->windowFlags().testFlag(Qt::BypassWindowManagerHint);
+}
+
+/** Returns the window that owns @p window, or null. */
+QWidget *owningWindow(const QWidget *window)
+{
+    const QWidget *parent = window->parentWidget();
+    return parent ? parent->window() : nullptr;
+}
+
+/** Hides or shows the window and leaves the dialog as it is: hiding a dialog ends its exec(). */
+void setWindowVisible(QWidget *dialog, bool visible)
+{
+    if (QWindow *window = dialog->windowHandle()) {
+        window->setVisible(visible);
+    }
+}
+
+} // namespace
+
 UnmanagedWindowState::UnmanagedWindowState(QWidget *dialog) : m_dialog(dialog)
 {
     if (QGuiApplication::platformName() == QLatin1String("xcb")) {
@@ -89,20 +113,7 @@ void UnmanagedWindowState::endDrag()
 
 bool UnmanagedWindowState::isUnmanaged() const
 {
-    return m_dialog->isWindow() && m_dialog->windowFlags().testFlag(Qt::BypassWindowManagerHint);
-}
-
-QWidget *UnmanagedWindowState::managedOwner() const
-{
-    QWidget *parent = m_dialog->parentWidget();
-    while (parent) {
-        QWidget *window = parent->window();
-        if (window->isVisible() && !window->windowFlags().testFlag(Qt::BypassWindowManagerHint)) {
-            return window;
-        }
-        parent = window->parentWidget();
-    }
-    return nullptr;
+    return m_dialog->isWindow() && bypassesWindowManager(m_dialog);
 }
 
 void UnmanagedWindowState::adoptState()
@@ -152,10 +163,17 @@ void UnmanagedWindowState::minimizeWithOwner()
     if (!m_dialog->isMinimized() || !m_dialog->isVisible()) {
         return;
     }
+    // The dialogs between this one and its owner would stay alone on the screen.
+    QVector<QPointer<QWidget>> chain;
+    QPointer<QWidget> owner = m_dialog;
+    while (owner && bypassesWindowManager(owner)) {
+        chain.append(owner);
+        owner = owningWindow(owner);
+    }
+
     const QPointer<UnmanagedWindowState> guard(this);
-    const QPointer<QWidget> owner = managedOwner();
     m_dialog->setWindowState(m_dialog->windowState() & ~Qt::WindowMinimized);
-    if (!guard || !owner) {
+    if (!guard || !owner || !owner->isVisible()) {
         return;
     }
     if (m_owner) {
@@ -163,8 +181,13 @@ void UnmanagedWindowState::minimizeWithOwner()
     }
     m_owner = owner;
     m_owner->installEventFilter(this);
-    // The window and not the dialog is hidden: hiding a dialog ends its exec().
-    m_dialog->windowHandle()->setVisible(false);
+    m_minimized = chain;
+    // Before the owner: Qt activates the owner of a window that goes, which would bring it back.
+    for (const QPointer<QWidget> &dialog : qAsConst(chain)) {
+        if (dialog) {
+            setWindowVisible(dialog, false);
+        }
+    }
     if (owner) {
         owner->setWindowState(owner->windowState() | Qt::WindowMinimized);
     }
@@ -174,12 +197,15 @@ void UnmanagedWindowState::comeBack()
 {
     m_owner->removeEventFilter(this);
     m_owner.clear();
-    // A host that has hidden or closed the dialog meanwhile wants it so.
-    const bool hiddenByHost = m_dialog->testAttribute(Qt::WA_WState_ExplicitShowHide) &&
-                              m_dialog->testAttribute(Qt::WA_WState_Hidden);
-    QWindow *window = m_dialog->windowHandle();
-    if (window && !window->isVisible() && !hiddenByHost) {
-        window->setVisible(true);
+    const QVector<QPointer<QWidget>> chain = m_minimized;
+    m_minimized.clear();
+    // The one above all others was the first to go and comes last.
+    for (auto dialog = chain.crbegin(); dialog != chain.crend(); ++dialog) {
+        // One that the host has hidden or closed meanwhile stays so.
+        if (*dialog && !(*dialog)->isVisible() &&
+            !(*dialog)->testAttribute(Qt::WA_WState_ExplicitShowHide)) {
+            setWindowVisible(*dialog, true);
+        }
     }
 }
 

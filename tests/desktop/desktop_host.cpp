@@ -180,6 +180,10 @@ void runNested()
     QObject::connect(button, &QPushButton::clicked, dialog, [dialog] {
         FramelessDialog inner(dialog);
         inner.setObjectName(QStringLiteral("inner"));
+        inner.setMinButtonVisible(true);
+        inner.getTitleBar()
+            ->titleButton(TitleBar::MinButton)
+            ->setObjectName(QStringLiteral("inner-minimize"));
         auto *layout = new QVBoxLayout;
         layout->addWidget(makeEdit(QStringLiteral("inner-edit")));
         inner.setLayout(layout);

@@ -26,6 +26,7 @@ private Q_SLOTS:
     void shownMaximizedFirst();
     void minimizeTakesTheParentAlong();
     void minimizeModalKeepsItRunning();
+    void minimizeTakesTheDialogsBelowAlong();
     void minimizeWithoutParentLosesNothing();
     void closeButton();
 
@@ -330,6 +331,38 @@ void tst_Desktop::minimizeModalKeepsItRunning()
     STEP(expectNot(host, QStringLiteral("clicked main-button")));
     STEP(click(host, QStringLiteral("ok")));
     STEP(expect(host, QStringLiteral("exec 1")));
+}
+
+void tst_Desktop::minimizeTakesTheDialogsBelowAlong()
+{
+    Host host(m_desktop, QStringLiteral("nested"));
+    STEP(openFromMain(host));
+    STEP(click(host, QStringLiteral("more")));
+    STEP(expect(host, QStringLiteral("painted inner .*")));
+    STEP(expect(host, QStringLiteral("active inner")));
+    const QString main = m_desktop.xdotool(QStringLiteral("search --onlyvisible --name ^main$"));
+    QVERIFY(!main.isEmpty());
+
+    STEP(click(host, QStringLiteral("inner-minimize")));
+    STEP(expect(host, QStringLiteral("state main minimized")));
+    STEP(expect(host, QStringLiteral("hidden inner")));
+    STEP(expect(host, QStringLiteral("hidden dialog")));
+    QTRY_VERIFY_WITH_TIMEOUT(
+        m_desktop.xdotool(QStringLiteral("search --onlyvisible --name ^main$")).isEmpty(),
+        TimeoutMs);
+
+    host.mark();
+    STEP(input(QLatin1String("windowactivate ") + main));
+    STEP(expect(host, QStringLiteral("painted dialog .*")));
+    STEP(expect(host, QStringLiteral("painted inner .*")));
+    STEP(expect(host, QStringLiteral("active inner")));
+    // Clicks reach the inner dialog, which stands above the other.
+    STEP(click(host, QStringLiteral("inner-edit")));
+    QTRY_VERIFY_WITH_TIMEOUT(
+        (key(QStringLiteral("x")), host.hasSaid(QStringLiteral("text inner-edit x+"))), TimeoutMs);
+    STEP(key(QStringLiteral("Return")));
+    STEP(expect(host, QStringLiteral("exec 1")));
+    STEP(expect(host, QStringLiteral("active dialog")));
 }
 
 void tst_Desktop::minimizeWithoutParentLosesNothing()
