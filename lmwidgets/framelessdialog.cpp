@@ -112,6 +112,14 @@ void FramelessDialogPrivate::putButtonsLastInTabOrder()
         return;
     }
     tabOrderSettled = true;
+    if (!okButton || !cancelButton || !applyButton || !bottomWidget) {
+        return;
+    }
+    if (okButton->isHidden() && cancelButton->isHidden() && applyButton->isHidden()) {
+        // A message box has buttons of its own in this row. Moving the hidden ones behind the
+        // content would give the keyboard to its leftmost button in place of the one that accepts.
+        return;
+    }
     if (okButton->nextInFocusChain() != cancelButton ||
         cancelButton->nextInFocusChain() != applyButton) {
         return;
@@ -454,13 +462,21 @@ void FramelessDialog::setHorizontalLineHeight(int height)
 
 void FramelessDialog::setMessageboxStyleSheet()
 {
-    if (d->titleBar) {
-        d->titleBar->getButtonByType(TitleBar::LogoButton)
-            ->setStyleSheet(QLatin1String(MessageBoxLogoStyle));
-        d->titleBar->titleLabel()->setObjectName(QStringLiteral("Messageboxtitlelabel"));
-        d->titleBar->titleLabel()->setStyleSheet(QLatin1String(MessageBoxTitleStyle));
-        d->titleBar->setTitleButtonVisible(TitleBar::LogoButton, true);
+    if (!d->titleBar) {
+        return;
     }
+    QToolButton *logo = d->titleBar->getButtonByType(TitleBar::LogoButton);
+    QLabel *title = d->titleBar->titleLabel();
+    // A message box calls this from within its layout. Each setStyleSheet(), also with the same
+    // text, asks for another layout; without the comparison that would never end.
+    if (logo->styleSheet() != QLatin1String(MessageBoxLogoStyle)) {
+        logo->setStyleSheet(QLatin1String(MessageBoxLogoStyle));
+    }
+    title->setObjectName(QStringLiteral("Messageboxtitlelabel"));
+    if (title->styleSheet() != QLatin1String(MessageBoxTitleStyle)) {
+        title->setStyleSheet(QLatin1String(MessageBoxTitleStyle));
+    }
+    d->titleBar->setTitleButtonVisible(TitleBar::LogoButton, true);
 }
 
 // A host that learns of its dialog's state change may delete the dialog, so each of these asks the

@@ -47,7 +47,9 @@ class TitleBar;
  * functions that return them then return null, and those that set something on them do nothing.
  *
  * It bypasses the window manager, and therefore activates itself when it is shown and when it is
- * clicked, so that it takes the keyboard on X11 too.
+ * clicked, so that it takes the keyboard on X11 too. There it also fills its screen itself when it
+ * is maximised and takes its former geometry when it is restored; minimised, it goes and comes back
+ * with the window that owns it, and without one it stays where it is.
  */
 class LMWIDGETS_EXPORT FramelessDialog : public TalvoDialogBase
 {
