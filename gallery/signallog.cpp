@@ -1,0 +1,197 @@
+#include "signallog.h"
+
+#include "pageparts.h"
+
+#include <QAbstractButton>
+#include <QDebug>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QMetaEnum>
+#include <QMetaMethod>
+#include <QPushButton>
+#include <QTime>
+#include <QTreeWidget>
+#include <QVariant>
+#include <QVBoxLayout>
+#include <QVector>
+
+namespace gallery {
+
+namespace {
+
+constexpr int MaximumLines = 1000;
+constexpr int TimeColumnWidth = 110;
+constexpr int SenderColumnWidth = 190;
+constexpr int SignalColumnWidth = 260;
+
+enum Column { TimeColumn, SenderColumn, EventColumn, ArgumentsColumn };
+
+QString objectText(const QObject *object)
+{
+    if (!object) {
+        return QStringLiteral("null");
+    }
+    QString name = object->objectName();
+    if (const auto *clicked = qobject_cast<const QAbstractButton *>(object)) {
+        name = clicked->text();
+    }
+    const QString className = QString::fromLatin1(object->metaObject()->className());
+    return name.isEmpty() ? className : QStringLiteral("%1 \"%2\"").arg(className, name);
+}
+
+QString enumText(int type, const void *data)
+{
+    const QMetaObject *scope = QMetaType::metaObjectForType(type);
+    const QByteArray name = QByteArray(QMetaType::typeName(type)).split(':').last();
+    const int value = *static_cast<const int *>(data);
+    const int index = scope ? scope->indexOfEnumerator(name.constData()) : -1;
+    const char *key = index < 0 ? nullptr : scope->enumerator(index).valueToKey(value);
+    return key ? QString::fromLatin1(key) : QString::number(value);
+}
+
+QString argumentText(const QMetaMethod &method, int index, void *data)
+{
+    const int type = method.parameterType(index);
+    if (type == QMetaType::UnknownType) {
+        return QString::fromLatin1(method.parameterTypes().at(index));
+    }
+    const QMetaType::TypeFlags flags = QMetaType::typeFlags(type);
+    if (flags & QMetaType::PointerToQObject) {
+        return objectText(*static_cast<QObject **>(data));
+    }
+    if ((flags & QMetaType::IsEnumeration) && QMetaType::sizeOf(type) == int(sizeof(int))) {
+        return enumText(type, data);
+    }
+    const QVariant value(type, data);
+    if (type == QMetaType::QString) {
+        return QStringLiteral("\"%1\"").arg(value.toString());
+    }
+    if (value.canConvert<QString>()) {
+        return value.toString();
+    }
+    QString text;
+    QDebug(&text).nospace() << value;
+    return text.trimmed();
+}
+
+QString argumentsText(const QMetaMethod &method, void **data)
+{
+    const QList<QByteArray> names = method.parameterNames();
+    QStringList texts;
+    for (int i = 0; i < method.parameterCount(); ++i) {
+        const QString value = argumentText(method, i, data[i + 1]);
+        const QString name = QString::fromLatin1(names.value(i));
+        texts.append(name.isEmpty() ? value : QStringLiteral("%1 = %2").arg(name, value));
+    }
+    return texts.join(QStringLiteral(", "));
+}
+
+/**
+ * Receives all signals of one object. It has no slots of its own: every signal is connected to a
+ * method number past those of QObject, and qt_metacall() tells from the number which one arrived.
+ */
+class SignalWatcher : public QObject
+{
+public:
+    SignalWatcher(QObject *sender, const QString &name, SignalLog *log)
+        : QObject(log), m_name(name), m_log(log)
+    {
+        const QMetaObject *meta = sender->metaObject();
+        const int first = sender->isWidgetType() ? QWidget::staticMetaObject.methodCount()
+                                                 : QObject::staticMetaObject.methodCount();
+        for (int i = first; i < meta->methodCount(); ++i) {
+            const QMetaMethod method = meta->method(i);
+            if (method.methodType() != QMetaMethod::Signal) {
+                continue;
+            }
+            const int slot = QObject::staticMetaObject.methodCount() + m_methods.size();
+            QMetaObject::connect(sender, i, this, slot, Qt::DirectConnection, nullptr);
+            m_methods.append(method);
+        }
+        connect(sender, &QObject::destroyed, this, &QObject::deleteLater);
+    }
+
+    int qt_metacall(QMetaObject::Call call, int id, void **arguments) override
+    {
+        id = QObject::qt_metacall(call, id, arguments);
+        if (id < 0 || call != QMetaObject::InvokeMetaMethod) {
+            return id;
+        }
+        if (id < m_methods.size()) {
+            const QMetaMethod method = m_methods.at(id);
+            m_log->note(m_name, QString::fromLatin1(method.name()),
+                        argumentsText(method, arguments));
+        }
+        return id - m_methods.size();
+    }
+
+private:
+    QString m_name;
+    SignalLog *m_log;
+    QVector<QMetaMethod> m_methods;
+};
+
+} // namespace
+
+SignalLog::SignalLog(QWidget *parent) : QWidget(parent), m_list(new QTreeWidget)
+{
+    m_list->setRootIsDecorated(false);
+    m_list->setUniformRowHeights(true);
+    m_list->setAlternatingRowColors(true);
+    m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    m_list->setHeaderLabels({QStringLiteral("Time"), QStringLiteral("Sender"),
+                             QStringLiteral("Signal"), QStringLiteral("Arguments")});
+    m_list->setColumnWidth(TimeColumn, TimeColumnWidth);
+    m_list->setColumnWidth(SenderColumn, SenderColumnWidth);
+    m_list->setColumnWidth(EventColumn, SignalColumnWidth);
+
+    auto *bar = new QHBoxLayout;
+    bar->addWidget(heading(QStringLiteral("Signals"), HeadingLevel::Section));
+    bar->addStretch();
+    bar->addWidget(button(QStringLiteral("Clear"), [this] { clear(); }));
+
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addLayout(bar);
+    layout->addWidget(m_list);
+}
+
+void SignalLog::watch(QObject *sender, const QString &name)
+{
+    if (sender) {
+        new SignalWatcher(sender, name, this);
+    }
+}
+
+void SignalLog::note(const QString &sender, const QString &event, const QString &arguments)
+{
+    if (m_list->topLevelItemCount() >= MaximumLines) {
+        delete m_list->takeTopLevelItem(0);
+    }
+    const QString time = QTime::currentTime().toString(QStringLiteral("hh:mm:ss.zzz"));
+    auto *item = new QTreeWidgetItem({time, sender, event, arguments});
+    item->setToolTip(ArgumentsColumn, arguments);
+    m_list->addTopLevelItem(item);
+    m_list->scrollToItem(item);
+}
+
+int SignalLog::count() const
+{
+    return m_list->topLevelItemCount();
+}
+
+QStringList SignalLog::line(int index) const
+{
+    const QTreeWidgetItem *item = m_list->topLevelItem(index);
+    return item ? QStringList{item->text(SenderColumn), item->text(EventColumn),
+                              item->text(ArgumentsColumn)}
+                : QStringList();
+}
+
+void SignalLog::clear()
+{
+    m_list->clear();
+}
+
+} // namespace gallery
