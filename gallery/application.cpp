@@ -56,6 +56,17 @@ QStringList pictureNames()
     return names;
 }
 
+QtMessageHandler nextMessageHandler = nullptr;
+
+/** Drops what the offscreen platform says about each window: the lists of paths are read by
+ * scripts. */
+void dropPlatformChatter(QtMsgType type, const QMessageLogContext &context, const QString &message)
+{
+    if (!message.startsWith(QLatin1String("This plugin does not support "))) {
+        nextMessageHandler(type, context, message);
+    }
+}
+
 bool isScale(const QString &text)
 {
     bool isNumber = false;
@@ -137,8 +148,11 @@ void prepare(const QStringList &arguments)
     if (isScale(parser.value(options.scale))) {
         qputenv("QT_SCALE_FACTOR", parser.value(options.scale).toLatin1());
     }
-#if defined(Q_OS_UNIX) && !defined(Q_OS_MACOS)
     const bool needsScreen = !parser.isSet(options.shoot) && !parser.isSet(options.list);
+    if (!needsScreen) {
+        nextMessageHandler = qInstallMessageHandler(dropPlatformChatter);
+    }
+#if defined(Q_OS_UNIX) && !defined(Q_OS_MACOS)
     const bool platformChosen = qEnvironmentVariableIsSet("QT_QPA_PLATFORM") ||
                                 arguments.contains(QStringLiteral("-platform"));
     if (!needsScreen && !platformChosen) {

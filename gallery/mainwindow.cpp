@@ -15,6 +15,7 @@
 #include <QScrollArea>
 #include <QSplitter>
 #include <QStackedWidget>
+#include <QVariant>
 #include <QVBoxLayout>
 
 namespace gallery {
@@ -25,7 +26,7 @@ namespace {
 
 constexpr QSize WindowSize(1280, 800);
 constexpr int WindowMargin = 12;
-constexpr int ListWidth = 180;
+constexpr int ListWidth = 190;
 constexpr int ListItemHeight = 32;
 constexpr int PageHeight = 560;
 constexpr int LogHeight = 170;
@@ -43,7 +44,7 @@ MainWindow::MainWindow(QWidget *parent)
 
     auto *upper = new QWidget;
     auto *upperLayout = new QHBoxLayout(upper);
-    upperLayout->setContentsMargins(0, 0, 0, 0);
+    upperLayout->setContentsMargins(0, 0, 0, WindowMargin);
     upperLayout->setSpacing(WindowMargin);
     upperLayout->addWidget(m_list);
     upperLayout->addWidget(m_stack, 1);
@@ -89,7 +90,7 @@ QWidget *MainWindow::createThemeSwitch()
     for (const QString &name : themeNames()) {
         auto *choice = new QPushButton(name);
         choice->setCheckable(true);
-        choice->setAutoDefault(false);
+        choice->setProperty("galleryChoice", true);
         group->addButton(choice, themeFromName(name));
         layout->addWidget(choice);
     }
@@ -108,6 +109,7 @@ QWidget *MainWindow::createThemeSwitch()
 
 void MainWindow::createPageList()
 {
+    m_list->setObjectName(QStringLiteral("galleryPageList"));
     m_list->setFixedWidth(ListWidth);
     for (const Page &page : pages()) {
         auto *item = new QListWidgetItem(page.title(), m_list);

@@ -191,6 +191,9 @@ bool shoot(const QString &directory, const QStringList &themes, const QStringLis
         err << "lmgallery: cannot create " << QDir::toNativeSeparators(directory) << '\n';
         return false;
     }
+    // A text cursor that blinks would make no two pictures alike.
+    const int flashTimeBefore = QApplication::cursorFlashTime();
+    QApplication::setCursorFlashTime(0);
     const Theme themeBefore = TalvoStyleManager::instance()->currentStyle();
     Camera camera(directory, out, err);
     bool written = true;
@@ -205,6 +208,7 @@ bool shoot(const QString &directory, const QStringList &themes, const QStringLis
         }
     }
     TalvoStyleManager::instance()->shiftStyle(themeBefore);
+    QApplication::setCursorFlashTime(flashTimeBefore);
     return written;
 }
 

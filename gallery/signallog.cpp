@@ -21,6 +21,7 @@ namespace gallery {
 namespace {
 
 constexpr int MaximumLines = 1000;
+constexpr int TopMargin = 6;
 constexpr int TimeColumnWidth = 110;
 constexpr int SenderColumnWidth = 190;
 constexpr int SignalColumnWidth = 260;
@@ -152,7 +153,7 @@ SignalLog::SignalLog(QWidget *parent) : QWidget(parent), m_list(new QTreeWidget)
     bar->addWidget(button(QStringLiteral("Clear"), [this] { clear(); }));
 
     auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setContentsMargins(0, TopMargin, 0, 0);
     layout->addLayout(bar);
     layout->addWidget(m_list);
 }

@@ -63,8 +63,11 @@ QPalette hostPalette(const HostColors &colors)
 
 QString hostSheet(const HostColors &colors)
 {
-    return QStringLiteral("QLabel[galleryQuiet=\"true\"] { color: %1; }\n")
-        .arg(colors.quietText.name());
+    return QStringLiteral("QLabel[galleryQuiet=\"true\"] { color: %1; }\n"
+                          "QPushButton[galleryChoice=\"true\"]:checked "
+                          "{ background-color: %2; border-color: %2; color: %3; }\n"
+                          "QListWidget#galleryPageList::item { padding-left: 10px; }\n")
+        .arg(colors.quietText.name(), AccentColor.name(), OnAccentColor.name());
 }
 
 QString readText(const QString &path)

@@ -131,9 +131,8 @@ void addDialogSection(QVBoxLayout *layout, SignalLog &log)
     const BenchPointer bench(new DialogBench);
     QVBoxLayout *body = addSection(
         layout, QStringLiteral("FramelessDialog"),
-        QStringLiteral(
-            "The switches take effect at once on an open dialog. Drag it by its title; "
-            "a resizable one also by its edges, 5 px outside or inside the frame's corner."));
+        QStringLiteral("The switches take effect at once on an open dialog. Drag it by its title, "
+                       "and a resizable one by its edges, which lie 10 px outside the frame."));
     body->addWidget(dialogSwitches(bench));
     body->addWidget(row({new QLabel(QStringLiteral("Title")), titleEdit(bench), alignmentBox(bench),
                          new QLabel(QStringLiteral("Line height")), lineHeightBox(bench)}));

@@ -70,6 +70,7 @@ void SampleDialog::createForm()
     form->addRow(QStringLiteral("Point size"), size);
     form->addRow(QString(), visible);
     setLayout(form);
+    name->setFocus();
 }
 
 void SampleDialog::createExtraButtons()

@@ -5,13 +5,14 @@
 
 #include <lmwidgets/talvostylemanager.h>
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDir>
 #include <QFileInfo>
-#include <QFrame>
 #include <QGridLayout>
+#include <QImage>
 #include <QLabel>
 #include <QLayout>
+#include <QPixmap>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -23,7 +24,7 @@ namespace {
 
 constexpr int ImageSizes[] = {16, 20, 32};
 constexpr int ImageColumns = 3;
-constexpr int CellSpacing = 10;
+constexpr int CellSpacing = 8;
 
 TalvoStyleManager *manager()
 {
@@ -51,24 +52,40 @@ bool isTitleImage(const QString &name)
            name.startsWith(QLatin1String("smallwindow"));
 }
 
-QWidget *imageCell(const QString &path)
+/** The image in the finest resolution that there is, scaled to @p size px. */
+QPixmap scaledImage(const QFileInfo &file, int size)
+{
+    const QString fine =
+        file.dir().filePath(file.completeBaseName() + QStringLiteral("@2x.") + file.suffix());
+    const QImage image(QFileInfo::exists(fine) ? fine : file.filePath());
+    const qreal ratio = qApp->devicePixelRatio();
+    const QSize pixels = QSize(size, size) * ratio;
+    if (image.isNull()) {
+        return QPixmap();
+    }
+    QPixmap pixmap =
+        QPixmap::fromImage(image.scaled(pixels, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    pixmap.setDevicePixelRatio(ratio);
+    return pixmap;
+}
+
+QWidget *imageCell(const QFileInfo &file)
 {
     auto *cell = new QWidget;
     auto *layout = new QHBoxLayout(cell);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(CellSpacing);
-    const QIcon icon(path);
     for (const int size : ImageSizes) {
         auto *image = new QLabel;
         image->setFixedSize(size, size);
         image->setAlignment(Qt::AlignCenter);
-        image->setPixmap(icon.pixmap(size, size));
-        if (isTitleImage(QFileInfo(path).fileName())) {
+        image->setPixmap(scaledImage(file, size));
+        if (isTitleImage(file.fileName())) {
             image->setStyleSheet(QStringLiteral("background-color: #2B2B2B;"));
         }
         layout->addWidget(image);
     }
-    layout->addWidget(new QLabel(QFileInfo(path).fileName()));
+    layout->addWidget(new QLabel(file.completeBaseName()));
     layout->addStretch();
     return cell;
 }
@@ -81,7 +98,7 @@ QWidget *imageTable(const QDir &directory)
     layout->setHorizontalSpacing(CellSpacing);
     int index = 0;
     for (const QString &name : imageNames(directory)) {
-        layout->addWidget(imageCell(directory.filePath(name)), index / ImageColumns,
+        layout->addWidget(imageCell(QFileInfo(directory, name)), index / ImageColumns,
                           index % ImageColumns);
         ++index;
     }
@@ -166,7 +183,7 @@ QWidget *createContent(SignalLog &log)
         ->addWidget(new ImageView(
             [] { return manager()->currentThemePath() + QStringLiteral("qssimage"); }));
     addSection(layout, QStringLiteral("Images that all themes share"))->addWidget(new ImageView([] {
-        return QCoreApplication::applicationDirPath() + QStringLiteral("/theme/qssimage");
+        return QApplication::applicationDirPath() + QStringLiteral("/theme/qssimage");
     }));
     return content;
 }
