@@ -26,7 +26,7 @@ namespace {
 
 constexpr QSize WindowSize(1280, 800);
 constexpr int WindowMargin = 12;
-constexpr int ListWidth = 190;
+constexpr int ListWidth = 210;
 constexpr int ListItemHeight = 32;
 constexpr int PageHeight = 560;
 constexpr int LogHeight = 170;
@@ -67,6 +67,7 @@ MainWindow::MainWindow(QWidget *parent)
     m_log->watch(TalvoStyleManager::instance().data(), QStringLiteral("TalvoStyleManager"));
     resize(WindowSize);
     m_list->setCurrentRow(0);
+    m_list->setFocus();
 }
 
 QWidget *MainWindow::createHeader()

@@ -26,7 +26,13 @@ Page::Page(const QString &name, const QString &title, const QString &description
 
 Page &Page::shot(const QString &name, std::function<QWidget *()> open)
 {
-    m_shots.append({name, std::move(open)});
+    m_shots.append({name, std::move(open), nullptr});
+    return *this;
+}
+
+Page &Page::blockingShot(const QString &name, std::function<void()> exec)
+{
+    m_shots.append({name, nullptr, std::move(exec)});
     return *this;
 }
 

@@ -17,6 +17,9 @@ struct Shot
     QString name;
     /** Opens a window and returns it, shown; the caller destroys it. */
     std::function<QWidget *()> open;
+    /** In place of that: opens a modal dialog and returns when it is closed, as static functions
+     * do. */
+    std::function<void()> exec;
 };
 
 /** What the gallery knows of one family of widgets: how to show it live, and its pictures. */
@@ -36,6 +39,8 @@ public:
 
     /** Adds a picture to be taken; returns the page itself, for the next one. */
     Page &shot(const QString &name, std::function<QWidget *()> open);
+    /** The same for a function that opens a modal dialog and returns only when it is closed. */
+    Page &blockingShot(const QString &name, std::function<void()> exec);
 
     /** Returns a new widget with heading, description and content; it is the caller's. */
     QWidget *createView(SignalLog &log) const;

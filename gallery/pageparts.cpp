@@ -112,7 +112,7 @@ QCheckBox *check(const QString &text, bool checked, std::function<void(bool)> to
     return result;
 }
 
-QWidget *row(std::initializer_list<QWidget *> widgets)
+QWidget *row(const QVector<QWidget *> &widgets)
 {
     auto *result = new QWidget;
     auto *layout = new QHBoxLayout(result);
@@ -125,7 +125,7 @@ QWidget *row(std::initializer_list<QWidget *> widgets)
     return result;
 }
 
-QWidget *grid(int columns, std::initializer_list<QWidget *> widgets)
+QWidget *grid(int columns, const QVector<QWidget *> &widgets)
 {
     auto *result = new QWidget;
     auto *layout = new QGridLayout(result);

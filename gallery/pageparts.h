@@ -7,9 +7,9 @@
 
 #include <QIcon>
 #include <QString>
+#include <QVector>
 
 #include <functional>
-#include <initializer_list>
 
 QT_BEGIN_NAMESPACE
 class QCheckBox;
@@ -36,10 +36,10 @@ QPushButton *button(const QString &text, std::function<void()> clicked);
 QCheckBox *check(const QString &text, bool checked, std::function<void(bool)> toggled);
 
 /** The widgets side by side, at the left of a row. */
-QWidget *row(std::initializer_list<QWidget *> widgets);
+QWidget *row(const QVector<QWidget *> &widgets);
 
 /** The widgets in a grid of @p columns equal columns, filled row by row. */
-QWidget *grid(int columns, std::initializer_list<QWidget *> widgets);
+QWidget *grid(int columns, const QVector<QWidget *> &widgets);
 
 /** An empty page content; sections are added to its layout. */
 QVBoxLayout *contentLayout(QWidget *content);

@@ -8,6 +8,7 @@
 #include <lmwidgets/talvostylemanager.h>
 
 #include <QApplication>
+#include <QDialog>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QEvent>
@@ -15,9 +16,11 @@
 #include <QPainter>
 #include <QPixmap>
 #include <QPointer>
-#include <QScopedPointer>
 #include <QTextStream>
+#include <QTimer>
 #include <QWindow>
+
+#include <functional>
 
 namespace gallery {
 
@@ -87,7 +90,7 @@ void paintBackdrop(QPainter &painter, const QSize &size, const QRect &window)
     painter.setClipping(false);
 }
 
-/** Settles @p widget, writes its picture and destroys it. */
+/** Writes pictures into a folder and says so. */
 class Camera
 {
 public:
@@ -96,24 +99,46 @@ public:
     {
     }
 
+    /** Takes the picture of @p widget and destroys it. */
     bool take(QWidget *widget, const QString &name)
     {
         const QPointer<QWidget> guard(widget);
-        const QString path = m_directory.filePath(name + QStringLiteral(".png"));
-        bool written = false;
-        if (!settle(widget)) {
-            m_err << "lmgallery: " << name << " did not appear\n";
-        } else if (!takePicture(widget).save(path)) {
-            m_err << "lmgallery: cannot write " << QDir::toNativeSeparators(path) << '\n';
-        } else {
-            m_out << QDir::toNativeSeparators(path) << '\n';
-            written = true;
-        }
+        const bool written = write(widget, name);
         delete guard.data();
         return written;
     }
 
+    /** Takes the picture of the modal dialog that @p exec opens, and closes it. */
+    bool takeModal(const std::function<void()> &exec, const QString &name)
+    {
+        bool written = false;
+        QTimer::singleShot(0, qApp, [this, &written, &name] {
+            const QPointer<QWidget> dialog(QApplication::activeModalWidget());
+            written = write(dialog, name);
+            if (auto *opened = qobject_cast<QDialog *>(dialog.data())) {
+                opened->reject();
+            }
+        });
+        exec();
+        return written;
+    }
+
 private:
+    bool write(QWidget *widget, const QString &name)
+    {
+        const QString path = m_directory.filePath(name + QStringLiteral(".png"));
+        if (!settle(widget)) {
+            m_err << "lmgallery: " << name << " did not appear\n";
+            return false;
+        }
+        if (!takePicture(widget).save(path)) {
+            m_err << "lmgallery: cannot write " << QDir::toNativeSeparators(path) << '\n';
+            return false;
+        }
+        m_out << QDir::toNativeSeparators(path) << '\n';
+        return true;
+    }
+
     QDir m_directory;
     QTextStream &m_out;
     QTextStream &m_err;
@@ -132,7 +157,9 @@ bool shootPage(const Page &page, const QString &prefix, Camera &camera)
     bool written = camera.take(view, prefix + page.name());
     for (const Shot &shot : page.shots()) {
         const QString name = prefix + page.name() + QLatin1Char('-') + shot.name;
-        written = camera.take(shot.open(), name) && written;
+        const bool taken =
+            shot.open ? camera.take(shot.open(), name) : camera.takeModal(shot.exec, name);
+        written = written && taken;
     }
     return written;
 }
@@ -141,6 +168,8 @@ bool shootWindow(const QString &prefix, Camera &camera)
 {
     auto *window = new MainWindow;
     window->show();
+    TalvoStyleManager::instance()->updateSectionThickness(QStringLiteral("A-A"), 0.25);
+    TalvoStyleManager::instance()->updateMappingPointSize(true, 5);
     return camera.take(window, prefix + QLatin1String(WindowName));
 }
 

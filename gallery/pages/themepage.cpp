@@ -31,6 +31,12 @@ TalvoStyleManager *manager()
     return TalvoStyleManager::instance().data();
 }
 
+/** A path as text, with the application's own folder shortened. */
+QString pathText(QString path)
+{
+    return path.replace(QApplication::applicationDirPath(), QStringLiteral("<application folder>"));
+}
+
 /** The images of a folder without those for double resolution, which QIcon finds by itself. */
 QStringList imageNames(const QDir &directory)
 {
@@ -128,7 +134,10 @@ private:
             delete item->widget();
             delete item;
         }
-        layout()->addWidget(paragraph(QDir::toNativeSeparators(directory)));
+        auto *path = paragraph(pathText(directory));
+        path->setTextFormat(Qt::PlainText);
+        path->setToolTip(QDir::toNativeSeparators(directory));
+        layout()->addWidget(path);
         layout()->addWidget(imageTable(QDir(directory)));
     }
 };
@@ -164,11 +173,13 @@ QWidget *createContent(SignalLog &log)
     auto *layout = contentLayout(content);
 
     auto *path = paragraph(QString());
+    path->setTextFormat(Qt::PlainText);
     path->setTextInteractionFlags(Qt::TextSelectableByMouse);
     onTheme(path, [path] {
-        path->setText(
-            QStringLiteral("currentStyle() = %1, currentThemePath() = %2")
-                .arg(themeName(manager()->currentStyle()), manager()->currentThemePath()));
+        path->setText(QStringLiteral("currentStyle() = %1, currentThemePath() = %2")
+                          .arg(themeName(manager()->currentStyle()),
+                               pathText(manager()->currentThemePath())));
+        path->setToolTip(QDir::toNativeSeparators(manager()->currentThemePath()));
     });
     addSection(layout, QStringLiteral("Current theme"))->addWidget(path);
 
