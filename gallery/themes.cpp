@@ -4,6 +4,7 @@
 #include <QColor>
 #include <QFile>
 #include <QPalette>
+#include <QVariant>
 
 namespace gallery {
 
@@ -22,6 +23,8 @@ struct HostColors
     QColor text;
     QColor quietText;
 };
+
+const char FollowsProperty[] = "galleryFollowsTheme";
 
 const QColor AccentColor(255, 200, 5);
 const QColor OnAccentColor(Qt::black);
@@ -128,6 +131,11 @@ Theme themeFromName(const QString &name)
 
 void followTheme()
 {
+    // The application remembers it, so that asking twice does not style everything twice.
+    if (qApp->property(FollowsProperty).toBool()) {
+        return;
+    }
+    qApp->setProperty(FollowsProperty, true);
     onTheme(qApp, applyTheme);
 }
 

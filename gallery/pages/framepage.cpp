@@ -141,7 +141,7 @@ void addDialogSection(QVBoxLayout *layout, SignalLog &log)
         openDialog(bench, parent->window(), log);
     })}));
     // The dialog is the window's child, the page may go before it does.
-    QObject::connect(parent, &QObject::destroyed, [bench] { delete bench->dialog.data(); });
+    QObject::connect(parent, &QObject::destroyed, parent, [bench] { delete bench->dialog.data(); });
 }
 
 void addTitleBarSection(QVBoxLayout *layout, SignalLog &log)
