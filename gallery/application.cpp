@@ -96,13 +96,8 @@ bool checkName(const char *what, const QString &value, const QStringList &valid,
     return false;
 }
 
-bool checkArguments(const QCommandLineParser &parser, const Options &options, QTextStream &err)
+bool checkValues(const QCommandLineParser &parser, const Options &options, QTextStream &err)
 {
-    if (!parser.positionalArguments().isEmpty()) {
-        err << "lmgallery: unexpected argument \"" << parser.positionalArguments().first()
-            << "\"\n";
-        return false;
-    }
     if (parser.isSet(options.scale) && !isScale(parser.value(options.scale))) {
         err << "lmgallery: the scale must be a number above 0 and up to " << MaximumScale << '\n';
         return false;
@@ -143,12 +138,16 @@ void prepare(const QStringList &arguments)
     const Options options;
     QCommandLineParser parser;
     options.addTo(parser);
+    const QCommandLineOption help = parser.addHelpOption();
     // Qt's own options are not known here, nor is what is wrong with the others said twice.
     parser.parse(arguments);
     if (isScale(parser.value(options.scale))) {
         qputenv("QT_SCALE_FACTOR", parser.value(options.scale).toLatin1());
     }
-    const bool needsScreen = !parser.isSet(options.shoot) && !parser.isSet(options.list);
+    QString complaints;
+    QTextStream complaintStream(&complaints);
+    const bool needsScreen = !parser.isSet(options.shoot) && !parser.isSet(options.list) &&
+                             !parser.isSet(help) && checkValues(parser, options, complaintStream);
     if (!needsScreen) {
         nextMessageHandler = qInstallMessageHandler(dropPlatformChatter);
     }
@@ -177,7 +176,12 @@ int run(const QStringList &arguments, QTextStream &out, QTextStream &err)
         out << parser.helpText();
         return Success;
     }
-    if (!checkArguments(parser, options, err)) {
+    if (!parser.positionalArguments().isEmpty()) {
+        err << "lmgallery: unexpected argument \"" << parser.positionalArguments().first()
+            << "\"\n";
+        return BadArguments;
+    }
+    if (!checkValues(parser, options, err)) {
         return BadArguments;
     }
     if (parser.isSet(options.list)) {

@@ -143,6 +143,16 @@ QWidget *grid(int columns, const QVector<QWidget *> &widgets)
     return result;
 }
 
+QWidget *framed(QWidget *widget)
+{
+    auto *frame = new QFrame;
+    frame->setObjectName(QStringLiteral("galleryFramed"));
+    auto *layout = new QVBoxLayout(frame);
+    layout->setContentsMargins(1, 1, 1, 1);
+    layout->addWidget(widget);
+    return frame;
+}
+
 QVBoxLayout *contentLayout(QWidget *content)
 {
     auto *layout = new QVBoxLayout(content);

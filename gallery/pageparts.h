@@ -41,6 +41,9 @@ QWidget *row(const QVector<QWidget *> &widgets);
 /** The widgets in a grid of @p columns equal columns, filled row by row. */
 QWidget *grid(int columns, const QVector<QWidget *> &widgets);
 
+/** @p widget in a thin border, for one that has the colour of the page. */
+QWidget *framed(QWidget *widget);
+
 /** An empty page content; sections are added to its layout. */
 QVBoxLayout *contentLayout(QWidget *content);
 

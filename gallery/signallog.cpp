@@ -137,6 +137,7 @@ private:
 
 SignalLog::SignalLog(QWidget *parent) : QWidget(parent), m_list(new QTreeWidget)
 {
+    m_list->setObjectName(QStringLiteral("gallerySignals"));
     m_list->setRootIsDecorated(false);
     m_list->setUniformRowHeights(true);
     m_list->setAlternatingRowColors(true);

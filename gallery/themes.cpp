@@ -69,8 +69,10 @@ QString hostSheet(const HostColors &colors)
     return QStringLiteral("QLabel[galleryQuiet=\"true\"] { color: %1; }\n"
                           "QPushButton[galleryChoice=\"true\"]:checked "
                           "{ background-color: %2; border-color: %2; color: %3; }\n"
-                          "QListWidget#galleryPageList::item { padding-left: 10px; }\n")
-        .arg(colors.quietText.name(), AccentColor.name(), OnAccentColor.name());
+                          "QFrame#galleryFramed { border: 1px solid %4; }\n"
+                          "QListWidget#galleryPageList::item { padding-left: 10px; }\n"
+                          "QTreeWidget#gallerySignals::item { padding-left: 5px; }\n")
+        .arg(colors.quietText.name(), AccentColor.name(), OnAccentColor.name(), colors.line.name());
 }
 
 QString readText(const QString &path)

@@ -155,7 +155,7 @@ void addTitleBarSection(QVBoxLayout *layout, SignalLog &log)
     bar->setMaximized(false);
     onTheme(bar, [bar] { reloadTitleImages(bar); });
     log.watch(bar, QStringLiteral("TitleBar"));
-    body->addWidget(bar);
+    body->addWidget(framed(bar));
     body->addWidget(
         row({check(QStringLiteral("Maximised"), false, [bar](bool on) { bar->setMaximized(on); }),
              check(QStringLiteral("Title"), true, [bar](bool on) { bar->setTitleVisible(on); }),

@@ -63,13 +63,17 @@ void SampleDialog::createForm()
     visible->setChecked(true);
 
     auto *form = new QFormLayout;
-    form->setContentsMargins(FormMargin, FormMargin, FormMargin, FormMargin);
     form->setSpacing(FormSpacing);
     form->addRow(QStringLiteral("Name"), name);
     form->addRow(QStringLiteral("Colour"), color);
     form->addRow(QStringLiteral("Point size"), size);
     form->addRow(QString(), visible);
-    setLayout(form);
+    // Room that the mouse adds goes below the form, and not into the row of buttons.
+    auto *content = new QVBoxLayout;
+    content->setContentsMargins(FormMargin, FormMargin, FormMargin, FormMargin);
+    content->addLayout(form);
+    content->addStretch();
+    setLayout(content);
     name->setFocus();
 }
 
