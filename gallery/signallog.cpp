@@ -4,6 +4,7 @@
 
 #include <QAbstractButton>
 #include <QDebug>
+#include <QFontMetrics>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -22,9 +23,11 @@ namespace {
 
 constexpr int MaximumLines = 1000;
 constexpr int TopMargin = 6;
-constexpr int TimeColumnWidth = 110;
-constexpr int SenderColumnWidth = 190;
-constexpr int SignalColumnWidth = 260;
+constexpr int CellPadding = 24;
+// The longest of what the columns usually hold; their widths come from these texts.
+const char TimeSample[] = "00:00:00.000";
+const char SenderSample[] = "TalvoStyleManager";
+const char SignalSample[] = "signalUpdateMappingPointSize";
 
 enum Column { TimeColumn, SenderColumn, EventColumn, ArgumentsColumn };
 
@@ -144,9 +147,13 @@ SignalLog::SignalLog(QWidget *parent) : QWidget(parent), m_list(new QTreeWidget)
     m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_list->setHeaderLabels({QStringLiteral("Time"), QStringLiteral("Sender"),
                              QStringLiteral("Signal"), QStringLiteral("Arguments")});
-    m_list->setColumnWidth(TimeColumn, TimeColumnWidth);
-    m_list->setColumnWidth(SenderColumn, SenderColumnWidth);
-    m_list->setColumnWidth(EventColumn, SignalColumnWidth);
+    const QFontMetrics metrics(m_list->font());
+    int column = TimeColumn;
+    for (const char *sample : {TimeSample, SenderSample, SignalSample}) {
+        m_list->setColumnWidth(column,
+                               metrics.horizontalAdvance(QLatin1String(sample)) + CellPadding);
+        ++column;
+    }
 
     auto *bar = new QHBoxLayout;
     bar->addWidget(heading(QStringLiteral("Signals"), HeadingLevel::Section));

@@ -22,6 +22,7 @@ struct HostColors
     QColor line;
     QColor text;
     QColor quietText;
+    QColor link;
 };
 
 const char FollowsProperty[] = "galleryFollowsTheme";
@@ -33,13 +34,13 @@ HostColors hostColors(Theme theme)
 {
     switch (theme) {
     case TalvoStyleManager::White:
-        return {0xF2F2F2, 0xFFFFFF, 0xE6E6E6, 0xB8B8B8, 0x2B2B2B, 0x666666};
+        return {0xF2F2F2, 0xFFFFFF, 0xE6E6E6, 0xB8B8B8, 0x2B2B2B, 0x666666, 0xA87B00};
     case TalvoStyleManager::Blue:
-        return {0x1B2A45, 0x14213A, 0x2D4469, 0x47639A, 0xEAF1FB, 0xA3B7D6};
+        return {0x1B2A45, 0x14213A, 0x2D4469, 0x47639A, 0xEAF1FB, 0xA3B7D6, 0xFFC805};
     case TalvoStyleManager::Black:
         break;
     }
-    return {0x2B2B2B, 0x232323, 0x404040, 0x585858, 0xF2F2F2, 0xA8A8A8};
+    return {0x2B2B2B, 0x232323, 0x404040, 0x585858, 0xF2F2F2, 0xA8A8A8, 0xFFC805};
 }
 
 QPalette hostPalette(const HostColors &colors)
@@ -55,7 +56,7 @@ QPalette hostPalette(const HostColors &colors)
     palette.setColor(QPalette::Mid, colors.line);
     palette.setColor(QPalette::Highlight, AccentColor);
     palette.setColor(QPalette::HighlightedText, OnAccentColor);
-    palette.setColor(QPalette::Link, AccentColor);
+    palette.setColor(QPalette::Link, colors.link);
     palette.setColor(QPalette::ToolTipBase, colors.base);
     palette.setColor(QPalette::ToolTipText, colors.text);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {

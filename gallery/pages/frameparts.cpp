@@ -201,8 +201,7 @@ void HelperWindow::showGeometry()
 
 void reloadTitleImages(TitleBar *bar)
 {
-    bar->setTitleButtonIcon(TitleBar::MinButton,
-                            QIcon(themeImage(QStringLiteral("systembuttonminimize"))));
+    // The minimise button has its picture from the style sheet.
     bar->setTitleButtonIcon(TitleBar::MaxButton,
                             QIcon(themeImage(QStringLiteral("systembuttonmaximize"))));
     bar->setTitleButtonIcon(TitleBar::RestoreButton,
