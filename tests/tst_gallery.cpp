@@ -217,7 +217,7 @@ void tst_Gallery::directoryThatCannotBeMade()
 
 void tst_Gallery::pagesAreDistinct()
 {
-    QStringList names(QLatin1String(gallery::WindowName));
+    QStringList names = {QLatin1String(gallery::WindowName)};
     const QRegularExpression nameForm(QStringLiteral("^[a-z0-9]+$"));
     const QRegularExpression shotForm(QStringLiteral("^[a-z0-9-]+$"));
     for (const Page &page : gallery::pages()) {
