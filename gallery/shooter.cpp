@@ -149,11 +149,16 @@ bool shootPage(const Page &page, const QString &prefix, Camera &camera)
     SignalLog log;
     QWidget *view = page.createView(log);
     view->ensurePolished();
-    view->setFixedWidth(PageWidth);
-    const int height =
-        view->hasHeightForWidth() ? view->heightForWidth(PageWidth) : view->sizeHint().height();
-    view->setFixedHeight(height);
+    const int width = qMax(PageWidth, view->minimumSizeHint().width());
+    view->setFixedWidth(width);
+    view->setFixedHeight(view->hasHeightForWidth() ? view->heightForWidth(width)
+                                                   : view->sizeHint().height());
     view->show();
+    settle(view);
+    // A window that becomes active gives its first control the focus, which then looks chosen.
+    if (QWidget *focused = view->focusWidget()) {
+        focused->clearFocus();
+    }
     bool written = camera.take(view, prefix + page.name());
     for (const Shot &shot : page.shots()) {
         const QString name = prefix + page.name() + QLatin1Char('-') + shot.name;

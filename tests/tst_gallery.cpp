@@ -445,6 +445,7 @@ void tst_Gallery::logClears()
     QCOMPARE(log.line(0).at(1), QStringLiteral("1"));
 
     auto *clear = log.findChild<QPushButton *>();
+    QVERIFY(clear);
     QTest::mouseClick(clear, Qt::LeftButton);
     QCOMPARE(log.count(), 0);
 }
