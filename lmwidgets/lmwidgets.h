@@ -5,10 +5,13 @@
  * Includes every public header of the library.
  */
 
+#include <lmwidgets/detailbutton.h>
 #include <lmwidgets/framelessdialog.h>
 #include <lmwidgets/framelesshelper.h>
+#include <lmwidgets/framelessmessagebox.h>
 #include <lmwidgets/frameline.h>
 #include <lmwidgets/lmwidgets_global.h>
+#include <lmwidgets/qmessageboxdetailstext.h>
 #include <lmwidgets/talvodialogbase.h>
 #include <lmwidgets/talvostylemanager.h>
 #include <lmwidgets/titlebar.h>
