@@ -6,5 +6,6 @@
 
 LMGALLERY_PAGE(theme)
 LMGALLERY_PAGE(frame)
+LMGALLERY_PAGE(messagebox)
 
 #undef LMGALLERY_PAGE
