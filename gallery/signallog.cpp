@@ -44,13 +44,20 @@ QString objectText(const QObject *object)
     return name.isEmpty() ? className : QStringLiteral("%1 \"%2\"").arg(className, name);
 }
 
-QString enumText(int type, const void *data)
+/** Describes the enumeration called @p typeName, of the sender's own class or of the Qt namespace.
+ */
+QMetaEnum findEnum(const QMetaObject *senderClass, const QByteArray &typeName)
 {
-    const QMetaObject *scope = QMetaType::metaObjectForType(type);
-    const QByteArray name = QByteArray(QMetaType::typeName(type)).split(':').last();
+    const QMetaObject *qtNamespace = QMetaEnum::fromType<Qt::Orientation>().enclosingMetaObject();
+    const QMetaObject *scope = typeName.startsWith("Qt::") ? qtNamespace : senderClass;
+    const QByteArray name = typeName.mid(typeName.lastIndexOf(':') + 1);
+    return scope->enumerator(scope->indexOfEnumerator(name.constData()));
+}
+
+QString enumText(const QMetaEnum &description, const void *data)
+{
     const int value = *static_cast<const int *>(data);
-    const int index = scope ? scope->indexOfEnumerator(name.constData()) : -1;
-    const char *key = index < 0 ? nullptr : scope->enumerator(index).valueToKey(value);
+    const char *key = description.valueToKey(value);
     return key ? QString::fromLatin1(key) : QString::number(value);
 }
 
@@ -58,14 +65,13 @@ QString argumentText(const QMetaMethod &method, int index, void *data)
 {
     const int type = method.parameterType(index);
     if (type == QMetaType::UnknownType) {
-        return QString::fromLatin1(method.parameterTypes().at(index));
+        const QByteArray typeName = method.parameterTypes().at(index);
+        const QMetaEnum description = findEnum(method.enclosingMetaObject(), typeName);
+        return description.isValid() ? enumText(description, data) : QString::fromLatin1(typeName);
     }
     const QMetaType::TypeFlags flags = QMetaType::typeFlags(type);
     if (flags & QMetaType::PointerToQObject) {
         return objectText(*static_cast<QObject **>(data));
-    }
-    if ((flags & QMetaType::IsEnumeration) && QMetaType::sizeOf(type) == int(sizeof(int))) {
-        return enumText(type, data);
     }
     const QVariant value(type, data);
     if (type == QMetaType::QString) {
@@ -109,6 +115,7 @@ public:
             if (method.methodType() != QMetaMethod::Signal) {
                 continue;
             }
+            registerArguments(sender, method);
             const int slot = QObject::staticMetaObject.methodCount() + m_methods.size();
             QMetaObject::connect(sender, i, this, slot, Qt::DirectConnection, nullptr);
             m_methods.append(method);
@@ -131,6 +138,17 @@ public:
     }
 
 private:
+    /** Has the sender's class make the types of a signal known, which connections do only later. */
+    static void registerArguments(QObject *sender, const QMetaMethod &method)
+    {
+        for (int i = 0; i < method.parameterCount(); ++i) {
+            int type = QMetaType::UnknownType;
+            void *arguments[] = {&type, &i};
+            QMetaObject::metacall(sender, QMetaObject::RegisterMethodArgumentMetaType,
+                                  method.methodIndex(), arguments);
+        }
+    }
+
     QString m_name;
     SignalLog *m_log;
     QVector<QMetaMethod> m_methods;
@@ -140,6 +158,8 @@ private:
 
 SignalLog::SignalLog(QWidget *parent) : QWidget(parent), m_list(new QTreeWidget)
 {
+    // A class that only announces the button's class in its header cannot make it known itself.
+    qRegisterMetaType<QAbstractButton *>();
     m_list->setObjectName(QStringLiteral("gallerySignals"));
     m_list->setRootIsDecorated(false);
     m_list->setUniformRowHeights(true);

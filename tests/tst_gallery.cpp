@@ -26,6 +26,7 @@
 #include <QStackedWidget>
 #include <QTemporaryDir>
 #include <QTextStream>
+#include <QTimer>
 #include <QToolButton>
 
 using gallery::Page;
@@ -45,6 +46,7 @@ Q_SIGNALS:
     void plain();
     void named(int count, const QString &text);
     void carried(QObject *object, Qt::Orientation orientation);
+    void own(Sender *sender);
     void unknown(Sender &sender);
 };
 
@@ -82,11 +84,11 @@ bool isUniform(const QImage &image)
     return true;
 }
 
-/** The button or check box called @p text below @p parent. */
+/** The button or check box called @p text below @p parent that is not hidden. */
 QAbstractButton *findButton(const QWidget *parent, const QString &text)
 {
     for (QAbstractButton *button : parent->findChildren<QAbstractButton *>()) {
-        if (button->text() == text) {
+        if (button->text() == text && !button->isHidden()) {
             return button;
         }
     }
@@ -153,6 +155,9 @@ private Q_SLOTS:
     void dialogFollowsItsSwitches();
     void dialogGoesWithItsPage();
     void helperWindowOpensAndCloses();
+    void messageBoxResultsReachTheLog_data();
+    void messageBoxResultsReachTheLog();
+    void messageBoxSignalsReachTheLog();
 };
 
 void tst_Gallery::badNames_data()
@@ -402,17 +407,21 @@ void tst_Gallery::logReportsSignals()
     Q_EMIT sender.carried(&sender, Qt::Vertical);
     Q_EMIT sender.carried(nullptr, Qt::Horizontal);
     Q_EMIT sender.unknown(sender);
+    Q_EMIT sender.own(&sender);
     sender.setObjectName(
         QStringLiteral("renamed")); // A signal of QObject's, which is not reported.
 
-    QCOMPARE(log.count(), 5);
+    QCOMPARE(log.count(), 6);
     QCOMPARE(log.line(0), (QStringList{"It", "plain", ""}));
     QCOMPARE(log.line(1), (QStringList{"It", "named", "count = 3, text = \"words\""}));
     const QString vertical = log.line(2).at(2);
     QVERIFY2(vertical.contains(QStringLiteral("\"origin\"")), qPrintable(vertical));
     QVERIFY2(log.line(3).at(2).startsWith(QStringLiteral("object = null")),
              qPrintable(log.line(3).at(2)));
-    QVERIFY(log.line(5).isEmpty());
+    QVERIFY2(vertical.endsWith(QStringLiteral("orientation = Vertical")), qPrintable(vertical));
+    const QString own = log.line(5).at(2);
+    QVERIFY2(own.endsWith(QStringLiteral("\"origin\"")), qPrintable(own));
+    QVERIFY(log.line(6).isEmpty());
 }
 
 void tst_Gallery::logOutlivesSenders()
@@ -601,6 +610,83 @@ void tst_Gallery::helperWindowOpensAndCloses()
 
     findButton(window, QStringLiteral("Close"))->click();
     QTRY_VERIFY(!window);
+}
+
+void tst_Gallery::messageBoxResultsReachTheLog_data()
+{
+    QTest::addColumn<QString>("opener");
+    QTest::addColumn<QString>("answer");
+    QTest::addColumn<QStringList>("line");
+
+    QTest::newRow("information") << "information"
+                                 << "OK" << QStringList{"information", "returned", "Ok"};
+    QTest::newRow("question") << "question"
+                              << "No" << QStringList{"question", "returned", "No"};
+    QTest::newRow("warning") << "warning"
+                             << "Save and Exit" << QStringList{"warning", "returned", "Save"};
+    QTest::newRow("critical") << "critical"
+                              << "Retry" << QStringList{"critical", "returned", "Retry"};
+    QTest::newRow("property") << "question, property"
+                              << "Yes" << QStringList{"question", "returned", "Yes"};
+    QTest::newRow("about") << "about"
+                           << "OK" << QStringList{"about", "returned", ""};
+    QTest::newRow("aboutQt") << "aboutQt"
+                             << "OK" << QStringList{"aboutQt", "returned", ""};
+}
+
+void tst_Gallery::messageBoxResultsReachTheLog()
+{
+    QFETCH(QString, opener);
+    QFETCH(QString, answer);
+    QFETCH(QStringList, line);
+
+    SignalLog log;
+    const QScopedPointer<QWidget> view(
+        gallery::findPage(QStringLiteral("messagebox"))->createView(log));
+    view->show();
+    bool clicked = false;
+    QTimer::singleShot(0, view.data(), [&answer, &clicked] {
+        QWidget *box = QApplication::activeModalWidget();
+        if (!gallery::settle(box)) {
+            return;
+        }
+        if (QAbstractButton *button = findButton(box, answer)) {
+            clicked = button->isVisible();
+            button->click();
+        } else {
+            box->close();
+        }
+    });
+    findButton(view.data(), opener)->click();
+    QVERIFY(clicked);
+    QCOMPARE(log.count(), 1);
+    QCOMPARE(log.line(0), line);
+}
+
+void tst_Gallery::messageBoxSignalsReachTheLog()
+{
+    SignalLog log;
+    const QScopedPointer<QWidget> view(
+        gallery::findPage(QStringLiteral("messagebox"))->createView(log));
+    view->show();
+    findButton(view.data(), QStringLiteral("No escape button"))->click();
+    const QPointer<FramelessDialog> box(openWindow<FramelessDialog>());
+    QVERIFY(gallery::settle(box));
+    QVERIFY(!box->close());
+    QCOMPARE(log.count(), 0);
+
+    findButton(box, QStringLiteral("Feet"))->click();
+    QTRY_VERIFY(!box);
+    QStringList lines;
+    for (int i = 0; i < log.count(); ++i) {
+        lines.append(log.line(i).join(QLatin1Char(' ')));
+    }
+    // The second of the custom buttons has the index 1 for its result.
+    QVERIFY2(lines.contains(QStringLiteral("No escape button finished result = 1")),
+             qPrintable(lines.join(QLatin1Char('\n'))));
+    QVERIFY2(
+        !lines.filter(QRegularExpression(QStringLiteral("buttonClicked .*\"Feet\""))).isEmpty(),
+        qPrintable(lines.join(QLatin1Char('\n'))));
 }
 
 int main(int argc, char **argv)
