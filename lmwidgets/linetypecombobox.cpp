@@ -5,6 +5,7 @@
 #include <QPen>
 #include <QScopedValueRollback>
 #include <QStringRef>
+#include <QStyleOptionComboBox>
 
 namespace LM {
 namespace Widgets {
@@ -18,6 +19,7 @@ constexpr int dotSize = 1;
 constexpr int dotOffset = 1; // from the position in the pattern to the dot, in px
 constexpr int dotY = 14;
 constexpr int dotAdvance = 3;
+constexpr int emptyBoxLetters = 7; // the room that QComboBox keeps while it has no items
 
 QString continuousPattern()
 {
@@ -43,6 +45,20 @@ QVector<int> patternValues(const QString &pattern, int limit)
         start = comma + 1;
     }
     return values;
+}
+
+/**
+ * Returns the width of @p box when it had no items. The pictures are as wide as the box: a hint
+ * that made room for them would grow with every layout pass, and the window with it.
+ */
+int widthWithoutPictures(const QComboBox *box, const QStyleOptionComboBox &option)
+{
+    const QFontMetrics metrics = box->fontMetrics();
+    const int contents =
+        qMax(emptyBoxLetters * metrics.horizontalAdvance(QLatin1Char('x')),
+             box->minimumContentsLength() * metrics.horizontalAdvance(QLatin1Char('X')));
+    const QSize size(contents, metrics.height());
+    return box->style()->sizeFromContents(QStyle::CT_ComboBox, &option, size, box).width();
 }
 
 /** Draws @p values over and over from the left end up to @p width, which is positive. */
@@ -155,6 +171,20 @@ void LineTypeComboBox::addLineType(const QString &name, const QString &pattern)
     // Hosts keep line types here for themselves and count on 15 items, so the table stays as it is.
     m_extraLineTypes.insert(name, pattern);
     updateIcons();
+}
+
+QSize LineTypeComboBox::sizeHint() const
+{
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    return QSize(widthWithoutPictures(this, option), QComboBox::sizeHint().height());
+}
+
+QSize LineTypeComboBox::minimumSizeHint() const
+{
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    return QSize(widthWithoutPictures(this, option), QComboBox::minimumSizeHint().height());
 }
 
 void LineTypeComboBox::resizeEvent(QResizeEvent *)
