@@ -91,6 +91,8 @@ protected:
 private:
     Q_DISABLE_COPY(LineTypeComboBox)
 
+    QSize appendItem(const QString &name, const QString &pattern, int width);
+
     QMap<QString, QString> m_extraLineTypes;
     QVector<QPair<QString, QString>> m_lineTypes;
     int m_rebuilds = 0;
