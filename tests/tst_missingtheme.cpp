@@ -1,15 +1,18 @@
 #include "lmtest.h"
 
 #include <lmwidgets/framelessdialog.h>
+#include <lmwidgets/framelessmessagebox.h>
 #include <lmwidgets/talvostylemanager.h>
 #include <lmwidgets/titlebar.h>
 
 #include <QDir>
 #include <QPushButton>
+#include <QTimer>
 #include <QToolButton>
 #include <QVBoxLayout>
 
 using LM::Widgets::FramelessDialog;
+using LM::Widgets::FramelessMessageBox;
 using LM::Widgets::TalvoStyleManager;
 using LM::Widgets::TitleBar;
 
@@ -30,6 +33,7 @@ private Q_SLOTS:
     void dialog_data() { themes(); }
     void dialog();
     void switchWhileShown();
+    void messageBox();
 
 private:
     static void themes();
@@ -104,6 +108,24 @@ void tst_MissingTheme::switchWhileShown()
         QVERIFY(!dialog.grab().isNull());
         QVERIFY(dialog.isVisible());
     }
+}
+
+void tst_MissingTheme::messageBox()
+{
+    for (const QMessageBox::Icon icon : {QMessageBox::Information, QMessageBox::Critical}) {
+        FramelessMessageBox box(icon, QStringLiteral("Title"), QStringLiteral("Text"),
+                                QMessageBox::Ok);
+        QCOMPARE(box.icon(), icon);
+        QVERIFY(box.iconPixmap().isNull());
+        QVERIFY(box.windowIcon().isNull());
+        box.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&box));
+        QCOMPARE(box.width(), 444);
+        QTest::mouseClick(box.button(QMessageBox::Ok), Qt::LeftButton);
+        QVERIFY(!box.isVisible());
+    }
+    QTimer::singleShot(0, qApp, [] { QApplication::activeModalWidget()->close(); });
+    FramelessMessageBox::about(nullptr, QStringLiteral("Title"), QStringLiteral("Text"));
 }
 
 LMTEST_MAIN(tst_MissingTheme)
