@@ -5,6 +5,8 @@
  * Includes every public header of the library.
  */
 
+#include <lmwidgets/customlayertablewidget.h>
+#include <lmwidgets/customlayertoolbutton.h>
 #include <lmwidgets/framelessdialog.h>
 #include <lmwidgets/framelesshelper.h>
 #include <lmwidgets/frameline.h>

@@ -1,0 +1,83 @@
+#include <lmwidgets/customlayertoolbutton.h>
+
+#include <lmwidgets/talvostylemanager.h>
+
+#include <QColor>
+#include <QIcon>
+#include <QLabel>
+#include <QPixmap>
+
+namespace LM {
+namespace Widgets {
+
+namespace {
+
+constexpr QSize PictureSize(20, 20);
+
+// The blank at the end belongs to the text: hosts compare it as it is.
+const char ButtonStyle[] = "background-color: transparent;border: 0px solid #3C3C3C; ";
+
+QIcon themeIcon(const char *name)
+{
+    return QIcon(TalvoStyleManager::instance()->currentThemePath() + QLatin1String("qssimage/") +
+                 QLatin1String(name) + QLatin1String(".png"));
+}
+
+} // namespace
+
+customLayerToolButton::customLayerToolButton(int row, int column, QWidget *parent)
+    : QToolButton(parent), m_row(row), m_column(column)
+{
+    setCheckable(true);
+    setChecked(true);
+    setIconSize(PictureSize);
+    setStyleSheet(QLatin1String(ButtonStyle));
+}
+
+customLayerToolButton::~customLayerToolButton() = default;
+
+int customLayerToolButton::row() const
+{
+    return m_row;
+}
+
+int customLayerToolButton::column() const
+{
+    return m_column;
+}
+
+void customLayerToolButton::setDelete()
+{
+    setIcon(themeIcon("delete_2dvec"));
+}
+
+void customLayerToolButton::setEditEnable(bool enabled)
+{
+    // One picture for both states: editing shows elsewhere in the host, not on the button.
+    Q_UNUSED(enabled)
+    setIcon(themeIcon("layer_edit"));
+}
+
+void customLayerToolButton::setLockState(bool locked)
+{
+    setIcon(themeIcon(locked ? "layer_lock" : "layer_unlock"));
+}
+
+void customLayerToolButton::setVisibleState(bool visible)
+{
+    setIcon(themeIcon(visible ? "layer_view" : "layer_dis_view"));
+}
+
+void customLayerToolButton::setColor(const QColor &color)
+{
+    QLabel label(this);
+    label.setStyleSheet(QLatin1String("border: none;background-color: ") + color.name());
+    label.setFixedSize(PictureSize);
+    QPixmap swatch(label.size());
+    label.render(&swatch, QPoint(), QRegion(),
+                 QWidget::DrawWindowBackground | QWidget::DrawChildren);
+    setIcon(QIcon(swatch));
+}
+
+} // namespace Widgets
+} // namespace LM
