@@ -46,9 +46,8 @@ const char MessageBoxTitleStyle[] =
 
 } // namespace
 
-FramelessDialogPrivate::FramelessDialogPrivate(FramelessDialog *dialog) :
-    q(dialog),
-    keyboardActivation(dialog)
+FramelessDialogPrivate::FramelessDialogPrivate(FramelessDialog *dialog)
+    : q(dialog), keyboardActivation(dialog)
 {
 }
 
@@ -121,9 +120,9 @@ void FramelessDialogPrivate::createHelper()
     titleBar->setTitleButtonVisible(TitleBar::LogoButton, false);
 }
 
-FramelessDialog::FramelessDialog(QWidget *parent, Qt::WindowFlags flags) :
-    TalvoDialogBase(parent, flags | Qt::BypassWindowManagerHint),
-    d(new FramelessDialogPrivate(this))
+FramelessDialog::FramelessDialog(QWidget *parent, Qt::WindowFlags flags)
+    : TalvoDialogBase(parent, flags | Qt::BypassWindowManagerHint),
+      d(new FramelessDialogPrivate(this))
 {
     setWindowFlags(windowFlags() | Qt::FramelessWindowHint);
     setAttribute(Qt::WA_TranslucentBackground);
@@ -154,13 +153,9 @@ FramelessDialog::~FramelessDialog()
     delete d;
 }
 
-void FramelessDialog::initStyleSheet()
-{
-}
+void FramelessDialog::initStyleSheet() {}
 
-void FramelessDialog::updateMoveEvent()
-{
-}
+void FramelessDialog::updateMoveEvent() {}
 
 void FramelessDialog::onOk()
 {
@@ -352,8 +347,8 @@ void FramelessDialog::appendExtendTitleButton(QAction *action, QSize buttonSize,
     d->titleBar->appendExtendTitleButton(action, buttonSize, iconSize);
 }
 
-void FramelessDialog::insertExtendTitleButton(
-    int index, QAction *action, QSize buttonSize, QSize iconSize)
+void FramelessDialog::insertExtendTitleButton(int index, QAction *action, QSize buttonSize,
+                                              QSize iconSize)
 {
     d->titleBar->insertExtendTitleButton(index, action, buttonSize, iconSize);
 }
@@ -434,7 +429,8 @@ void FramelessDialog::swithMaxNormal()
 void FramelessDialog::drawShadowBorder(QPaintEvent *event)
 {
     Q_UNUSED(event)
-    const QRect frame(FrameMargin, FrameMargin, width() - 2 * FrameMargin, height() - 2 * FrameMargin);
+    const QRect frame(FrameMargin, FrameMargin, width() - 2 * FrameMargin,
+                      height() - 2 * FrameMargin);
     QPainterPath path;
     path.setFillRule(Qt::WindingFill);
     path.addRect(frame);

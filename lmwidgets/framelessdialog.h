@@ -24,9 +24,9 @@ class TitleBar;
  *
  * @brief A dialog that draws its own frame: title bar, content, and OK, Cancel and Apply.
  *
- * Derive from it and fill getContentHolder(), or give it a layout with setLayout(). The dialog paints a
- * filled rectangle with a thin border; the 10 px around it are see-through. It is moved by the mouse in
- * its top 58 px. OK accepts, Cancel rejects, the title bar's close button closes.
+ * Derive from it and fill getContentHolder(), or give it a layout with setLayout(). The dialog
+ * paints a filled rectangle with a thin border; the 10 px around it are see-through. It is moved by
+ * the mouse in its top 58 px. OK accepts, Cancel rejects, the title bar's close button closes.
  *
  * @code
  * LM::Widgets::FramelessDialog dialog(window);
@@ -39,9 +39,9 @@ class TitleBar;
  * }
  * @endcode
  *
- * A new dialog shows only the close button in its title bar and hides Apply. Its size is frozen at each
- * show: both minimumSize() and maximumSize() become size(). A dialog that is to be resized by the mouse
- * needs setDialogResizable(true) and, after show(), limits of its own.
+ * A new dialog shows only the close button in its title bar and hides Apply. Its size is frozen at
+ * each show: both minimumSize() and maximumSize() become size(). A dialog that is to be resized by
+ * the mouse needs setDialogResizable(true) and, after show(), limits of its own.
  *
  * It bypasses the window manager, and therefore activates itself when it is shown and when it is
  * clicked, so that it takes the keyboard on X11 too.
@@ -53,8 +53,8 @@ class LMWIDGETS_EXPORT FramelessDialog : public TalvoDialogBase
 public:
     /**
      * Constructs a dialog with @p flags, Qt::BypassWindowManagerHint and Qt::FramelessWindowHint.
-     * @p parent may be null; otherwise it owns the dialog. Building a dialog sets the title height of
-     * all frameless helpers of the process to 48 px.
+     * @p parent may be null; otherwise it owns the dialog. Building a dialog sets the title height
+     * of all frameless helpers of the process to 48 px.
      */
     explicit FramelessDialog(QWidget *parent = nullptr, Qt::WindowFlags flags = Qt::WindowFlags());
     ~FramelessDialog() override;
@@ -63,8 +63,8 @@ public:
     void initStyleSheet() override;
 
     /**
-     * Called after each step in which the mouse has moved the dialog, so that it can take companions
-     * along; not while a rubber band is moved instead. This one does nothing.
+     * Called after each step in which the mouse has moved the dialog, so that it can take
+     * companions along; not while a rubber band is moved instead. This one does nothing.
      */
     virtual void updateMoveEvent();
 
@@ -76,8 +76,8 @@ public:
 
     /**
      * Places @p layout between the separators, with its own margins, and takes ownership. It hides
-     * QWidget::setLayout(), whose place the frame itself takes. Null, or a layout that stands somewhere
-     * already, is ignored. The caller deletes a former layout that it wants replaced.
+     * QWidget::setLayout(), whose place the frame itself takes. Null, or a layout that stands
+     * somewhere already, is ignored. The caller deletes a former layout that it wants replaced.
      */
     void setLayout(QLayout *layout);
 
@@ -100,7 +100,8 @@ public:
     QPushButton *GetOKButton();
     /** Returns the Cancel button, which calls onCancel(). */
     QPushButton *GetCancelButton();
-    /** Returns the Apply button. It is hidden at start and connected to nothing: the host does that. */
+    /** Returns the Apply button. It is hidden at start and connected to nothing: the host does
+     * that. */
     QPushButton *GetApplyButton();
 
     /** Shows or hides the OK button; shown at start. */
@@ -119,8 +120,8 @@ public:
     /** Shows or hides the title bar's minimise button; hidden at start. */
     void setMinButtonVisible(bool visible);
     /**
-     * Shows the maximise or the restore button, whichever fits the dialog's state, or hides both, as at
-     * start. Hiding them also ends the resizing by the mouse; showing them does not allow it.
+     * Shows the maximise or the restore button, whichever fits the dialog's state, or hides both,
+     * as at start. Hiding them also ends the resizing by the mouse; showing them does not allow it.
      */
     void setMaxButtonVisible(bool visible);
     /** Hides the logo button, as it is at start. */
@@ -144,13 +145,15 @@ public:
     /** Sets the style sheet of the title's label. */
     void setTitleBarLabelStyleSheet(QString styleSheet);
 
-    /** Sets the icon of the title button @p type, see TitleBar::TitleButtonType; others are ignored. */
+    /** Sets the icon of the title button @p type, see TitleBar::TitleButtonType; others are
+     * ignored. */
     void setTitleButtonIcon(const int &type, const QIcon &icon);
     /** Sets the fixed size in px of the title button @p type; others are ignored. */
     void setTtitleBarButtonSize(const int &type, QSize size);
     /** Sets the style sheet of the title button @p type; others are ignored. */
     void setTtitleBarButtonStyle(const int &type, QString styleSheet);
-    /** Adds a tool button for @p action to the title bar, see TitleBar::appendExtendTitleButton(). */
+    /** Adds a tool button for @p action to the title bar, see TitleBar::appendExtendTitleButton().
+     */
     void appendExtendTitleButton(QAction *action, QSize buttonSize, QSize iconSize);
     /** Adds a tool button for @p action at @p index, see TitleBar::insertExtendTitleButton(). */
     void insertExtendTitleButton(int index, QAction *action, QSize buttonSize, QSize iconSize);
@@ -188,14 +191,15 @@ protected:
     virtual void onCancel();
 
     /**
-     * Returns the widget between the separators, for a subclass to fill; created by the first call and
-     * owned by the dialog.
+     * Returns the widget between the separators, for a subclass to fill; created by the first call
+     * and owned by the dialog.
      */
     QWidget *getContentHolder();
 
     /** Paints the background inset by 10 px with a grey border. */
     void drawShadowBorder(QPaintEvent *event);
-    /** Paints the background over the whole dialog with a dark border, for subclasses without a margin. */
+    /** Paints the background over the whole dialog with a dark border, for subclasses without a
+     * margin. */
     void drawSolidBorder(QPaintEvent *event);
 
     void paintEvent(QPaintEvent *event) override;

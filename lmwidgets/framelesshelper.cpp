@@ -16,7 +16,8 @@ namespace Widgets {
 
 namespace {
 
-// How far a rubber band that moves is inset at its left and top, so that it does not hide the frame.
+// How far a rubber band that moves is inset at its left and top, so that it does not hide the
+// frame.
 constexpr int MoveBandInset = 10;
 
 } // namespace
@@ -26,8 +27,9 @@ unsigned int FramelessHelperPrivate::titleHeight = 30;
 
 CursorRegion CursorRegion::at(const QPoint &globalPos, const QRect &frame, unsigned int borderWidth)
 {
-    // Both ends count, and the far edges are the ones just outside the rectangle: hosts rely on a press
-    // exactly at x + width still finding the edge. 64 bits, since the width is any unsigned number.
+    // Both ends count, and the far edges are the ones just outside the rectangle: hosts rely on a
+    // press exactly at x + width still finding the edge. 64 bits, since the width is any unsigned
+    // number.
     const auto within = [](qint64 value, qint64 from, qint64 to) {
         return from <= value && value <= to;
     };
@@ -50,10 +52,8 @@ CursorRegion CursorRegion::at(const QPoint &globalPos, const QRect &frame, unsig
     return region;
 }
 
-HelperWidgetData::HelperWidgetData(FramelessHelperPrivate *owner, QWidget *widget) :
-    m_owner(owner),
-    m_widget(widget),
-    m_savedWindowFlags(widget->windowFlags())
+HelperWidgetData::HelperWidgetData(FramelessHelperPrivate *owner, QWidget *widget)
+    : m_owner(owner), m_widget(widget), m_savedWindowFlags(widget->windowFlags())
 {
 }
 
@@ -285,8 +285,8 @@ void HelperWidgetData::updateCursorShape(const QPoint &globalPos)
         return;
     }
 
-    m_moveRegion = CursorRegion::at(
-        globalPos, m_widget->frameGeometry(), FramelessHelperPrivate::borderWidth);
+    m_moveRegion =
+        CursorRegion::at(globalPos, m_widget->frameGeometry(), FramelessHelperPrivate::borderWidth);
     Qt::CursorShape shape;
     if (m_moveRegion.onTopLeftEdge || m_moveRegion.onBottomRightEdge) {
         shape = Qt::SizeFDiagCursor;
@@ -341,8 +341,9 @@ void FramelessHelper::activateOn(QWidget *widget)
     d->widgets.insert(widget, data);
     widget->installEventFilter(this);
 
-    // QWidget says that it goes before it deletes its children, so that a helper which is a child of its
-    // widget has forgotten it by the time of its own destruction, and no longer tries to restore it.
+    // QWidget says that it goes before it deletes its children, so that a helper which is a child
+    // of its widget has forgotten it by the time of its own destruction, and no longer tries to
+    // restore it.
     connect(widget, &QObject::destroyed, this, [this, widget] { delete d->widgets.take(widget); });
 }
 
@@ -435,8 +436,8 @@ bool FramelessHelper::eventFilter(QObject *watched, QEvent *event)
     if (HelperWidgetData *data = d->widgets.value(static_cast<QWidget *>(watched))) {
         data->handleEvent(event);
     }
-    // Host code that ran meanwhile may have destroyed the widget, and this helper as its child. Only
-    // then is the event stopped, so that Qt does not deliver it to what is gone.
+    // Host code that ran meanwhile may have destroyed the widget, and this helper as its child.
+    // Only then is the event stopped, so that Qt does not deliver it to what is gone.
     return guard.isNull();
 }
 

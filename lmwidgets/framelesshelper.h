@@ -19,10 +19,11 @@ class FramelessHelperPrivate;
  *
  * @brief Lets the mouse move and resize top-level widgets that have no system frame.
  *
- * The helper watches the widgets that are registered with activateOn(). A press of the left button in
- * the title area, the topmost 10 px plus titleHeight(), drags the widget; a press within borderWidth()
- * of an edge or corner resizes it; near an edge the widget shows the resize cursor. The helper draws
- * nothing, sets no window flag and consumes no event. It serves any number of widgets.
+ * The helper watches the widgets that are registered with activateOn(). A press of the left button
+ * in the title area, the topmost 10 px plus titleHeight(), drags the widget; a press within
+ * borderWidth() of an edge or corner resizes it; near an edge the widget shows the resize cursor.
+ * The helper draws nothing, sets no window flag and consumes no event. It serves any number of
+ * widgets.
  *
  * @code
  * window->setWindowFlag(Qt::FramelessWindowHint);
@@ -38,7 +39,8 @@ class LMWIDGETS_EXPORT FramelessHelper : public QObject
     Q_OBJECT
 
 public:
-    /** Constructs a helper that serves no widget yet; movable and resizable, without rubber bands. */
+    /** Constructs a helper that serves no widget yet; movable and resizable, without rubber bands.
+     */
     explicit FramelessHelper(QObject *parent = nullptr);
 
     /**
@@ -48,15 +50,15 @@ public:
     ~FramelessHelper() override;
 
     /**
-     * Registers @p widget, which stays the caller's: turns on mouse tracking and hover events for it and
-     * watches its events. Null, or a widget that is registered already, is ignored. A widget that is
-     * destroyed is forgotten by itself.
+     * Registers @p widget, which stays the caller's: turns on mouse tracking and hover events for
+     * it and watches its events. Null, or a widget that is registered already, is ignored. A widget
+     * that is destroyed is forgotten by itself.
      */
     void activateOn(QWidget *widget);
 
     /**
-     * Stops serving @p widget: mouse tracking and hover events are turned off and the window flags that
-     * it had in activateOn() are set again, which hides it if they have changed since (as
+     * Stops serving @p widget: mouse tracking and hover events are turned off and the window flags
+     * that it had in activateOn() are set again, which hides it if they have changed since (as
      * QWidget::setWindowFlags() does). An unknown widget is ignored.
      */
     void removeFrom(QWidget *widget);
@@ -70,9 +72,9 @@ public:
     bool widgetResizable();
 
     /**
-     * Whether a drag moves a rubber band first and the widget only when the button is released; false
-     * at start. The band begins 10 px inside the widget's left and top edges, and the widget takes the
-     * band's geometry, that inset included.
+     * Whether a drag moves a rubber band first and the widget only when the button is released;
+     * false at start. The band begins 10 px inside the widget's left and top edges, and the widget
+     * takes the band's geometry, that inset included.
      */
     void setRubberBandOnMove(bool rubberBand);
     bool rubberBandOnMove();
@@ -82,16 +84,16 @@ public:
     bool rubberBandOnResisze();
 
     /**
-     * Width in px of the band along each edge in which a press resizes; 5 at start, both ends included.
-     * One value for all helpers of the process. 0 is ignored.
+     * Width in px of the band along each edge in which a press resizes; 5 at start, both ends
+     * included. One value for all helpers of the process. 0 is ignored.
      */
     void setBorderWidth(unsigned int width);
     unsigned int borderWidth();
 
     /**
-     * Height in px of the title area, counted from 10 px below the widget's top, all of which drags; 30
-     * at start. One value for all helpers of the process: each FramelessDialog sets it to its own
-     * title bar's 48 when it is built. 0 is ignored.
+     * Height in px of the title area, counted from 10 px below the widget's top, all of which
+     * drags; 30 at start. One value for all helpers of the process: each FramelessDialog sets it to
+     * its own title bar's 48 when it is built. 0 is ignored.
      */
     void setTitleHeight(unsigned int height);
     unsigned int titleHeight();

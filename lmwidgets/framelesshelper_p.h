@@ -66,8 +66,8 @@ public:
     void updateRubberBand();
 
     /**
-     * Follows the mouse. Moving or resizing the widget runs host code, which may remove or destroy the
-     * widget and this record with it: nothing of the record is touched after that.
+     * Follows the mouse. Moving or resizing the widget runs host code, which may remove or destroy
+     * the widget and this record with it: nothing of the record is touched after that.
      */
     void handleEvent(QEvent *event);
 

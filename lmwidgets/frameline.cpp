@@ -39,12 +39,13 @@ void placeInBox(QFrame *line, QBoxLayout *box)
 } // namespace
 
 QFrame *FrameLine::createHorizontalLine(const QString &propertyName, QWidget *parent,
-    const unsigned int &lineWidth, const unsigned int &crossMargin,
-    const unsigned int &lengthMargin)
+                                        const unsigned int &lineWidth,
+                                        const unsigned int &crossMargin,
+                                        const unsigned int &lengthMargin)
 {
     auto *box = new QHBoxLayout;
     box->setContentsMargins(toPixels(lengthMargin), toPixels(crossMargin), toPixels(lengthMargin),
-        toPixels(crossMargin));
+                            toPixels(crossMargin));
 
     QFrame *line = createLine(propertyName, parent, toPixels(lineWidth));
     line->setFixedHeight(toPixels(lineWidth));
@@ -54,12 +55,13 @@ QFrame *FrameLine::createHorizontalLine(const QString &propertyName, QWidget *pa
 }
 
 QFrame *FrameLine::createVerticalLine(const QString &propertyName, QWidget *parent,
-    const unsigned int &lineWidth, const unsigned int &crossMargin,
-    const unsigned int &lengthMargin)
+                                      const unsigned int &lineWidth,
+                                      const unsigned int &crossMargin,
+                                      const unsigned int &lengthMargin)
 {
     auto *box = new QVBoxLayout;
     box->setContentsMargins(toPixels(crossMargin), toPixels(lengthMargin), toPixels(crossMargin),
-        toPixels(lengthMargin));
+                            toPixels(lengthMargin));
 
     QFrame *line = createLine(propertyName, parent, toPixels(lineWidth));
     line->setFixedWidth(toPixels(lineWidth));

@@ -13,10 +13,11 @@ namespace Widgets {
 /**
  * Gives the keyboard to a dialog that bypasses the window manager.
  *
- * On X11 nobody hands the input focus to such a window: shown while no other window of the application
- * is active it gets no key at all, and once another application has taken the focus a click into the
- * dialog does not bring it back. So the dialog is activated when it is shown, unless it carries
- * Qt::WA_ShowWithoutActivating, and when the mouse is pressed on it while it is inactive.
+ * On X11 nobody hands the input focus to such a window: shown while no other window of the
+ * application is active it gets no key at all, and once another application has taken the focus a
+ * click into the dialog does not bring it back. So the dialog is activated when it is shown, unless
+ * it carries Qt::WA_ShowWithoutActivating, and when the mouse is pressed on it while it is
+ * inactive.
  */
 class KeyboardActivation : public QObject
 {

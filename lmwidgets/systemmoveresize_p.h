@@ -11,8 +11,8 @@ namespace LM {
 namespace Widgets {
 
 /**
- * Whether windows cannot place themselves, so that moving and resizing by the mouse must be left to the
- * window system. True on Wayland with Qt 5.15 or later, which has the calls for it.
+ * Whether windows cannot place themselves, so that moving and resizing by the mouse must be left to
+ * the window system. True on Wayland with Qt 5.15 or later, which has the calls for it.
  */
 bool windowSystemPlacesWindows();
 

@@ -20,8 +20,8 @@ QHash<TalvoDialogBase *, bool> &runningRebuilds()
 
 } // namespace
 
-TalvoDialogBase::TalvoDialogBase(QWidget *parent, Qt::WindowFlags flags) :
-    QDialog(parent, flags | Qt::BypassWindowManagerHint)
+TalvoDialogBase::TalvoDialogBase(QWidget *parent, Qt::WindowFlags flags)
+    : QDialog(parent, flags | Qt::BypassWindowManagerHint)
 {
     TalvoStyleManager::instance()->addTalvoDialogBase(this);
 }
@@ -29,8 +29,8 @@ TalvoDialogBase::TalvoDialogBase(QWidget *parent, Qt::WindowFlags flags) :
 TalvoDialogBase::~TalvoDialogBase()
 {
     runningRebuilds().remove(this);
-    // From here on there is no initStyleSheet() to call, yet the destruction of the children can still
-    // run host code that switches the theme.
+    // From here on there is no initStyleSheet() to call, yet the destruction of the children can
+    // still run host code that switches the theme.
     if (QCoreApplication::instance()) {
         TalvoStyleManager::instance()->disconnect(this);
     }
@@ -49,8 +49,8 @@ void TalvoDialogBase::onInitStyleSheet()
     rebuilds.insert(this, false);
     initStyleSheet();
     if (guard && rebuilds.value(this)) {
-        // Once, and not until it stops asking: an implementation that switches the theme each time it
-        // is called would never end.
+        // Once, and not until it stops asking: an implementation that switches the theme each time
+        // it is called would never end.
         initStyleSheet();
     }
     if (guard) {

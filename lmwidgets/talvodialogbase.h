@@ -13,9 +13,9 @@ namespace Widgets {
  *
  * @brief The root of dialogs that follow the theme.
  *
- * A dialog derived from this class is registered with TalvoStyleManager when it is constructed. On each
- * TalvoStyleManager::shiftStyle() its initStyleSheet() is called, once per switch, until the dialog is
- * destroyed or the manager's disconnectAllSignals() is called.
+ * A dialog derived from this class is registered with TalvoStyleManager when it is constructed. On
+ * each TalvoStyleManager::shiftStyle() its initStyleSheet() is called, once per switch, until the
+ * dialog is destroyed or the manager's disconnectAllSignals() is called.
  *
  * @code
  * class Report : public LM::Widgets::TalvoDialogBase
@@ -31,17 +31,18 @@ class LMWIDGETS_EXPORT TalvoDialogBase : public QDialog
 
 public:
     /**
-     * Constructs a dialog with @p flags and Qt::BypassWindowManagerHint, and registers it with the style
-     * manager. @p parent may be null; otherwise it owns the dialog.
+     * Constructs a dialog with @p flags and Qt::BypassWindowManagerHint, and registers it with the
+     * style manager. @p parent may be null; otherwise it owns the dialog.
      */
     explicit TalvoDialogBase(QWidget *parent = nullptr, Qt::WindowFlags flags = Qt::WindowFlags());
     ~TalvoDialogBase() override;
 
     /**
-     * Sets the style sheet for the current theme. Called on each theme switch, not by the constructor.
+     * Sets the style sheet for the current theme. Called on each theme switch, not by the
+     * constructor.
      *
-     * An implementation may switch the theme itself: the call for that second switch follows when it
-     * has returned, so it is not entered twice at once. It may also destroy the dialog.
+     * An implementation may switch the theme itself: the call for that second switch follows when
+     * it has returned, so it is not entered twice at once. It may also destroy the dialog.
      */
     virtual void initStyleSheet() = 0;
 

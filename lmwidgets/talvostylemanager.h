@@ -17,21 +17,21 @@ class TalvoDialogBase;
  *
  * @brief The process-wide theme, and a relay of notifications between parts of the host.
  *
- * The manager knows which colour theme is current and in which folder beside the executable its images
- * lie. Widgets ask it for currentThemePath() at the moment they load an image, so an image follows a
- * theme switch the next time it is loaded. Dialogs derived from TalvoDialogBase are told of a switch at
- * once and rebuild their style sheet. The manager itself never reads a theme file and never applies a
- * style sheet.
+ * The manager knows which colour theme is current and in which folder beside the executable its
+ * images lie. Widgets ask it for currentThemePath() at the moment they load an image, so an image
+ * follows a theme switch the next time it is loaded. Dialogs derived from TalvoDialogBase are told
+ * of a switch at once and rebuild their style sheet. The manager itself never reads a theme file
+ * and never applies a style sheet.
  *
- * Parts of a host that do not know each other use it as a notice board: one calls a plain method, for
- * example removePointCloudObject(), and whoever is connected receives the matching signal. It also keeps
- * the path and the time stamp of the current project.
+ * Parts of a host that do not know each other use it as a notice board: one calls a plain method,
+ * for example removePointCloudObject(), and whoever is connected receives the matching signal. It
+ * also keeps the path and the time stamp of the current project.
  *
  * @code
  * auto *manager = LM::Widgets::TalvoStyleManager::instance().data();
- * QObject::connect(manager, &LM::Widgets::TalvoStyleManager::themeStyleShift, window, &Window::restyle);
- * manager->shiftStyle(LM::Widgets::TalvoStyleManager::White);
- * const QIcon lock(manager->currentThemePath() + QStringLiteral("qssimage/layer_lock.png"));
+ * QObject::connect(manager, &LM::Widgets::TalvoStyleManager::themeStyleShift, window,
+ * &Window::restyle); manager->shiftStyle(LM::Widgets::TalvoStyleManager::White); const QIcon
+ * lock(manager->currentThemePath() + QStringLiteral("qssimage/layer_lock.png"));
  * @endcode
  *
  * instance() may be called from any thread. Everything else belongs to the GUI thread.
@@ -52,8 +52,9 @@ public:
     virtual ~TalvoStyleManager();
 
     /**
-     * Returns the pointer that owns the one manager. The first call, from whichever thread, creates it;
-     * it then lives on the application's thread until the process ends. Do not reset or take it.
+     * Returns the pointer that owns the one manager. The first call, from whichever thread, creates
+     * it; it then lives on the application's thread until the process ends. Do not reset or take
+     * it.
      */
     static QScopedPointer<TalvoStyleManager> &instance();
 
@@ -61,27 +62,28 @@ public:
     ThemeStyleType currentStyle();
 
     /**
-     * Returns the folder of the current theme, with a slash at its end: the folder of the executable
-     * followed by "/theme/Black/", "/theme/White/" or "/theme/Blue/". Whether it exists is not checked.
+     * Returns the folder of the current theme, with a slash at its end: the folder of the
+     * executable followed by "/theme/Black/", "/theme/White/" or "/theme/Blue/". Whether it exists
+     * is not checked.
      */
     QString currentThemePath();
 
     /**
-     * Makes @p type the current theme and emits themeStyleShift(), also when the theme is the same as
-     * before. A value outside the enumeration is stored as it is and shown as Black.
+     * Makes @p type the current theme and emits themeStyleShift(), also when the theme is the same
+     * as before. A value outside the enumeration is stored as it is and shown as Black.
      */
     void shiftStyle(ThemeStyleType type);
 
     /**
-     * Connects themeStyleShift() to TalvoDialogBase::onInitStyleSheet() of @p dialog; null is ignored.
-     * Every TalvoDialogBase does this once for itself; a dialog added twice is called twice per switch.
-     * The connection ends with the dialog, which stays the caller's.
+     * Connects themeStyleShift() to TalvoDialogBase::onInitStyleSheet() of @p dialog; null is
+     * ignored. Every TalvoDialogBase does this once for itself; a dialog added twice is called
+     * twice per switch. The connection ends with the dialog, which stays the caller's.
      */
     void addTalvoDialogBase(TalvoDialogBase *dialog);
 
     /**
-     * Drops every connection to any signal of the manager, the dialogs' own among them: those that exist
-     * no longer follow theme switches, dialogs made later do.
+     * Drops every connection to any signal of the manager, the dialogs' own among them: those that
+     * exist no longer follow theme switches, dialogs made later do.
      */
     void disconnectAllSignals();
 

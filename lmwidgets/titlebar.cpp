@@ -36,8 +36,8 @@ const char WindowButtonStyle[] =
 
 QString themeImage(const char *name)
 {
-    return TalvoStyleManager::instance()->currentThemePath() + QLatin1String("qssimage/")
-        + QLatin1String(name) + QLatin1String(".png");
+    return TalvoStyleManager::instance()->currentThemePath() + QLatin1String("qssimage/") +
+           QLatin1String(name) + QLatin1String(".png");
 }
 
 } // namespace
@@ -76,10 +76,10 @@ void TitleBarPrivate::styleButtons()
     buttons[TitleBar::CloseButton]->setProperty("isTitleBarCloseButton", true);
 
     QIcon closeIcon(themeImage("smallwindowcloseicon"));
-    // No separator between the two: a host that wants its own hover and disabled picture names the file
-    // so. Where there is none the theme's image serves for all modes.
-    const QPixmap hostPixmap(QCoreApplication::applicationDirPath()
-        + QLatin1String("qssimage/smallwindowcloseicon.png"));
+    // No separator between the two: a host that wants its own hover and disabled picture names the
+    // file so. Where there is none the theme's image serves for all modes.
+    const QPixmap hostPixmap(QCoreApplication::applicationDirPath() +
+                             QLatin1String("qssimage/smallwindowcloseicon.png"));
     closeIcon.addPixmap(hostPixmap, QIcon::Active, QIcon::Off);
     closeIcon.addPixmap(hostPixmap, QIcon::Disabled, QIcon::Off);
     buttons[TitleBar::CloseButton]->setIcon(closeIcon);
@@ -236,8 +236,8 @@ void TitleBar::setMaximized(bool maximized)
     d->showStateButtons(!maximized, maximized);
 }
 
-QToolButton *TitleBar::insertExtendTitleButton(
-    int index, QAction *action, QSize buttonSize, QSize iconSize)
+QToolButton *TitleBar::insertExtendTitleButton(int index, QAction *action, QSize buttonSize,
+                                               QSize iconSize)
 {
     if (!action) {
         return nullptr;

@@ -23,10 +23,10 @@ class TitleBarPrivate;
  *
  * @brief The caption strip of a window that has no system frame.
  *
- * A title bar is 48 px high and holds, from the left: a logo button, the title, a row of extra buttons
- * and the minimise, maximise, restore and close buttons. It acts on no window: it emits minimuned(),
- * maximumed(), normaled() and closed(), and whoever owns it connects them. It remembers whether its
- * owner is maximised, in order to offer the maximise or the restore button.
+ * A title bar is 48 px high and holds, from the left: a logo button, the title, a row of extra
+ * buttons and the minimise, maximise, restore and close buttons. It acts on no window: it emits
+ * minimuned(), maximumed(), normaled() and closed(), and whoever owns it connects them. It
+ * remembers whether its owner is maximised, in order to offer the maximise or the restore button.
  *
  * @code
  * auto *bar = new LM::Widgets::TitleBar(window);
@@ -78,8 +78,8 @@ public:
     QToolButton *getButtonByType(int type);
 
     /**
-     * Shows or hides the button @p type. A maximise or restore button that is hidden so stays hidden
-     * when the state changes. A type outside 0 to 4 is ignored.
+     * Shows or hides the button @p type. A maximise or restore button that is hidden so stays
+     * hidden when the state changes. A type outside 0 to 4 is ignored.
      */
     void setTitleButtonVisible(int type, bool visible);
     /** Returns whether the button @p type is on the screen; false if there is no such button. */
@@ -96,19 +96,20 @@ public:
     QString titleButtonToolTip(int type);
 
     /**
-     * Tells the title bar whether its owner is maximised: true shows the restore button in place of the
-     * maximise button, false the reverse. Buttons hidden by setTitleButtonVisible() stay hidden. Emits
-     * nothing.
+     * Tells the title bar whether its owner is maximised: true shows the restore button in place of
+     * the maximise button, false the reverse. Buttons hidden by setTitleButtonVisible() stay
+     * hidden. Emits nothing.
      */
     void setMaximized(bool maximized);
 
     /**
-     * Adds a tool button for @p action, @p buttonSize px large with an icon of @p iconSize px, to the
-     * row of extra buttons at @p index; a negative index, or one past the end, appends. The button is
-     * the title bar's, the action stays the caller's. Returns null, and adds nothing, for a null action.
+     * Adds a tool button for @p action, @p buttonSize px large with an icon of @p iconSize px, to
+     * the row of extra buttons at @p index; a negative index, or one past the end, appends. The
+     * button is the title bar's, the action stays the caller's. Returns null, and adds nothing, for
+     * a null action.
      */
-    QToolButton *insertExtendTitleButton(
-        int index, QAction *action, QSize buttonSize, QSize iconSize);
+    QToolButton *insertExtendTitleButton(int index, QAction *action, QSize buttonSize,
+                                         QSize iconSize);
     /** Adds a tool button for @p action behind the other extra buttons. */
     QToolButton *appendExtendTitleButton(QAction *action, QSize buttonSize, QSize iconSize);
 
@@ -131,8 +132,9 @@ Q_SIGNALS:
 
 public Q_SLOTS:
     /**
-     * Swaps the maximise and the restore button, as far as they are in use, and emits maximumed() or
-     * normaled(). While the signal is delivered the title bar still counts as in its former state.
+     * Swaps the maximise and the restore button, as far as they are in use, and emits maximumed()
+     * or normaled(). While the signal is delivered the title bar still counts as in its former
+     * state.
      */
     void switchMaxMin();
 

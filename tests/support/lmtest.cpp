@@ -31,20 +31,21 @@ void ignorePlatformChatter()
 }
 
 void mouse(QWidget *widget, QEvent::Type type, const QPoint &pos, Qt::MouseButton button,
-    Qt::MouseButtons buttons, Qt::KeyboardModifiers modifiers)
+           Qt::MouseButtons buttons, Qt::KeyboardModifiers modifiers)
 {
     mouseAt(widget, type, widget->mapToGlobal(pos), button, buttons, modifiers);
 }
 
 void mouseAt(QWidget *widget, QEvent::Type type, const QPoint &globalPos, Qt::MouseButton button,
-    Qt::MouseButtons buttons, Qt::KeyboardModifiers modifiers)
+             Qt::MouseButtons buttons, Qt::KeyboardModifiers modifiers)
 {
     if (type == QEvent::MouseMove) {
         button = Qt::NoButton;
     } else if (type == QEvent::MouseButtonRelease) {
         buttons &= ~Qt::MouseButtons(button);
     }
-    QMouseEvent event(type, widget->mapFromGlobal(globalPos), globalPos, button, buttons, modifiers);
+    QMouseEvent event(type, widget->mapFromGlobal(globalPos), globalPos, button, buttons,
+                      modifiers);
     QApplication::sendEvent(widget, &event);
 }
 

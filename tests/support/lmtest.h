@@ -16,20 +16,21 @@
 namespace lmtest {
 
 /**
- * Drops what the offscreen platform says of itself about every window; all else goes on to QTest. Is
- * called when QTest has set its own handler, that is from within a test object.
+ * Drops what the offscreen platform says of itself about every window; all else goes on to QTest.
+ * Is called when QTest has set its own handler, that is from within a test object.
  */
 void ignorePlatformChatter();
 
-/** Sends a mouse press, move or release to @p widget, as from the window system; @p pos is its own. */
+/** Sends a mouse press, move or release to @p widget, as from the window system; @p pos is its own.
+ */
 void mouse(QWidget *widget, QEvent::Type type, const QPoint &pos,
-    Qt::MouseButton button = Qt::LeftButton, Qt::MouseButtons buttons = Qt::LeftButton,
-    Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+           Qt::MouseButton button = Qt::LeftButton, Qt::MouseButtons buttons = Qt::LeftButton,
+           Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 
 /** The same at a global position, which may lie outside the widget. */
 void mouseAt(QWidget *widget, QEvent::Type type, const QPoint &globalPos,
-    Qt::MouseButton button = Qt::LeftButton, Qt::MouseButtons buttons = Qt::LeftButton,
-    Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+             Qt::MouseButton button = Qt::LeftButton, Qt::MouseButtons buttons = Qt::LeftButton,
+             Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 
 /** Sends a hover move at @p pos, which is in the coordinates of @p widget. */
 void hoverMove(QWidget *widget, const QPoint &pos);
@@ -37,7 +38,8 @@ void hoverMove(QWidget *widget, const QPoint &pos);
 /** The folder of the default theme beside the test program, without a slash at its end. */
 QString themeDir();
 
-/** Prepares the application: no settings of this machine's desktop shall decide what a test sees. */
+/** Prepares the application: no settings of this machine's desktop shall decide what a test sees.
+ */
 void prepareApplication();
 
 /**
