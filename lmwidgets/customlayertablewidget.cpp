@@ -281,25 +281,32 @@ void CustomLayerTableWidget::addLayerRow()
     if (columnCount() < LayerColumnCount) {
         return;
     }
+    // A host that listens to the model may take the row or the columns away again, or the table
+    // itself.
     const QPointer<CustomLayerTableWidget> guard(this);
+    const auto isThere = [&guard](int row) {
+        return guard && row >= 0 && row < guard->rowCount() &&
+               guard->columnCount() >= LayerColumnCount;
+    };
     const int row = rowCount();
     insertRow(row);
+    if (!isThere(row)) {
+        return;
+    }
     setRowHeight(row, RowHeight);
     setItemDelegateForColumn(NameColumn, new CustomDelegate(this));
 
     auto *name = new QTableWidgetItem(QStringLiteral("layer%1").arg(row));
     name->setTextAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     setItem(row, NameColumn, name);
-    // A host that listens to the model may have removed the row again, or deleted the table; and a
-    // sorted table has moved the row to its place.
-    if (!guard) {
+    if (!isThere(row)) {
         return;
     }
+    // A sorted table has moved the row to its place.
     const int place = isSortingEnabled() ? this->row(name) : row;
-    if (place < 0 || place >= rowCount()) {
-        return;
+    if (isThere(place)) {
+        addLayerButtons(row, place);
     }
-    addLayerButtons(row, place);
 }
 
 void CustomLayerTableWidget::addLayerButtons(int row, int place)
