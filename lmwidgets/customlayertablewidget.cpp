@@ -294,7 +294,7 @@ void CustomLayerTableWidget::addLayerRow()
         return;
     }
     setRowHeight(row, RowHeight);
-    setItemDelegateForColumn(NameColumn, new CustomDelegate(this));
+    installNameDelegate();
 
     auto *name = new QTableWidgetItem(QStringLiteral("layer%1").arg(row));
     name->setTextAlignment(Qt::AlignLeft | Qt::AlignVCenter);
@@ -306,6 +306,20 @@ void CustomLayerTableWidget::addLayerRow()
     const int place = isSortingEnabled() ? this->row(name) : row;
     if (isThere(place)) {
         addLayerButtons(row, place);
+    }
+}
+
+void CustomLayerTableWidget::installNameDelegate()
+{
+    QAbstractItemDelegate *former = itemDelegateForColumn(NameColumn);
+    setItemDelegateForColumn(NameColumn, new CustomDelegate(this));
+    // QTableWidget listens to the newest delegate alone. An editor that is open stays with the one
+    // that opened it, and could neither store its text nor be closed any more.
+    if (former && former->parent() == this && qobject_cast<CustomDelegate *>(former)) {
+        connect(former, &QAbstractItemDelegate::commitData, this,
+                &CustomLayerTableWidget::commitData);
+        connect(former, &QAbstractItemDelegate::closeEditor, this,
+                &CustomLayerTableWidget::closeEditor);
     }
 }
 

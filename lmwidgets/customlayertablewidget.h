@@ -142,6 +142,7 @@ private:
     void creatLayer();
     void creatLayerProperties();
     void creatObjectProperties();
+    void installNameDelegate();
     void addLayerButtons(int row, int place);
     void chooseColor(int row, customLayerToolButton *button);
 };

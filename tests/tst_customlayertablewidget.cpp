@@ -24,6 +24,8 @@
 #include <functional>
 #include <memory>
 
+Q_DECLARE_METATYPE(QTableWidgetItem *)
+
 using LM::Widgets::CustomDelegate;
 using LM::Widgets::CustomLayerTableWidget;
 using LM::Widgets::customLayerToolButton;
@@ -568,8 +570,7 @@ void tst_CustomLayerTableWidget::rowWhenAHostInterferes()
         QCOMPARE(table->findChildren<customLayerToolButton *>().size(), 5);
     } else if (deed == 4 || deed == 6) {
         QVERIFY(!table->cellWidget(0, 1));
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QVERIFY(table->findChildren<customLayerToolButton *>().isEmpty());
+        QTRY_VERIFY(table->findChildren<customLayerToolButton *>().isEmpty());
     } else if (deed == 5) {
         QCOMPARE(table->rowCount(), 3);
         QCOMPARE(table->findChildren<customLayerToolButton *>().size(), 15);
