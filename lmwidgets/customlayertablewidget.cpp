@@ -325,33 +325,34 @@ void CustomLayerTableWidget::installNameDelegate()
 
 void CustomLayerTableWidget::addLayerButtons(int row, int place)
 {
-    auto *remove = new customLayerToolButton(row, DeleteColumn, this);
+    // setCellWidget() takes them to the viewport anyway. Made there, they do not have to move.
+    auto *remove = new customLayerToolButton(row, DeleteColumn, viewport());
     remove->setDelete();
     connect(remove, &QToolButton::clicked, this,
             [this, row] { Q_EMIT signalUpdateModel(row, QVariant(), BUTTON_DELETE); });
 
-    auto *edit = new customLayerToolButton(row, EditColumn, this);
+    auto *edit = new customLayerToolButton(row, EditColumn, viewport());
     edit->setEditEnable(true);
     connect(edit, &QToolButton::clicked, this, [this, row, edit](bool checked) {
         edit->setEditEnable(checked);
         Q_EMIT signalUpdateModel(row, QVariant(), BUTTON_EDIT);
     });
 
-    auto *lock = new customLayerToolButton(row, LockColumn, this);
+    auto *lock = new customLayerToolButton(row, LockColumn, viewport());
     lock->setLockState(true);
     connect(lock, &QToolButton::clicked, this, [this, row, lock](bool checked) {
         lock->setLockState(checked);
         Q_EMIT signalUpdateModel(row, QVariant(checked), BUTTON_LOCK);
     });
 
-    auto *visible = new customLayerToolButton(row, VisibleColumn, this);
+    auto *visible = new customLayerToolButton(row, VisibleColumn, viewport());
     visible->setVisibleState(true);
     connect(visible, &QToolButton::clicked, this, [this, row, visible](bool checked) {
         visible->setVisibleState(checked);
         Q_EMIT signalUpdateModel(row, QVariant(checked), BUTTON_VISIBLE);
     });
 
-    auto *color = new customLayerToolButton(row, ColorColumn, this);
+    auto *color = new customLayerToolButton(row, ColorColumn, viewport());
     color->setColor(Qt::white);
     connect(color, &QToolButton::clicked, this, [this, row, color] { chooseColor(row, color); });
 
@@ -370,6 +371,17 @@ void CustomLayerTableWidget::chooseColor(int row, customLayerToolButton *button)
         button->setColor(color);
         Q_EMIT signalUpdateModel(row, QVariant(color), BUTTON_COLOR);
     }
+}
+
+void CustomLayerTableWidget::rowsInserted(const QModelIndex &parent, int start, int end)
+{
+    // QAbstractItemView places all cell widgets anew for each insertion, which makes filling a
+    // table of widgets quadratic. Rows at the end move no other cell, and the layout that Qt has
+    // scheduled by now places their own widgets.
+    if (isVisible() && end == rowCount() - 1) {
+        return;
+    }
+    QTableWidget::rowsInserted(parent, start, end);
 }
 
 void CustomLayerTableWidget::setLayerProperties(const QList<QVariant> &values)

@@ -136,6 +136,9 @@ Q_SIGNALS:
     /** For hosts to emit when they remove @p row. The table itself never does. */
     void signalRemoveSelectRow(int row);
 
+protected:
+    void rowsInserted(const QModelIndex &parent, int start, int end) override;
+
 private:
     Q_DISABLE_COPY(CustomLayerTableWidget)
 

@@ -4,7 +4,6 @@
 
 #include <QColor>
 #include <QIcon>
-#include <QLabel>
 #include <QPixmap>
 
 namespace LM {
@@ -70,12 +69,8 @@ void customLayerToolButton::setVisibleState(bool visible)
 
 void customLayerToolButton::setColor(const QColor &color)
 {
-    QLabel label(this);
-    label.setStyleSheet(QLatin1String("border: none;background-color: ") + color.name());
-    label.setFixedSize(PictureSize);
-    QPixmap swatch(label.size());
-    label.render(&swatch, QPoint(), QRegion(),
-                 QWidget::DrawWindowBackground | QWidget::DrawChildren);
+    QPixmap swatch(PictureSize);
+    swatch.fill(QColor(color.name()));
     setIcon(QIcon(swatch));
 }
 
