@@ -86,8 +86,6 @@ void addPlainRow(QTableWidget *table, bool styled)
         if (styled) {
             button->setStyleSheet(
                 QStringLiteral("background-color: transparent;border: 0px solid #3C3C3C; "));
-        } else {
-            button->setAutoRaise(true);
         }
         if (column < 5) {
             button->setIcon(QIcon(TalvoStyleManager::instance()->currentThemePath() +

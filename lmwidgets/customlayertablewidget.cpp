@@ -357,7 +357,12 @@ void CustomLayerTableWidget::addLayerButtons(int row, int place)
     connect(color, &QToolButton::clicked, this, [this, row, color] { chooseColor(row, color); });
 
     for (customLayerToolButton *button : {remove, edit, lock, visible, color}) {
-        setCellWidget(place, button->column(), button);
+        // QTableWidget shows a new cell widget before it places it: in the corner of the viewport,
+        // where hundreds of them would be painted for nothing.
+        const int column = button->column();
+        button->setGeometry(columnViewportPosition(column), rowViewportPosition(place),
+                            columnWidth(column), rowHeight(place));
+        setCellWidget(place, column, button);
     }
 }
 

@@ -3,6 +3,10 @@
 #include <lmwidgets/talvostylemanager.h>
 
 #include <QColor>
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QFileInfo>
+#include <QHash>
 #include <QIcon>
 #include <QPixmap>
 
@@ -16,10 +20,44 @@ constexpr QSize PictureSize(20, 20);
 // The blank at the end belongs to the text: hosts compare it as it is.
 const char ButtonStyle[] = "background-color: transparent;border: 0px solid #3C3C3C; ";
 
+/** An icon and what its file looked like when it was read. */
+struct IconFile
+{
+    QDateTime modified;
+    qint64 size = -1;
+    QIcon icon;
+};
+
+using IconFiles = QHash<QString, IconFile>;
+Q_GLOBAL_STATIC(IconFiles, iconFiles)
+
+// The pictures must not outlive the application.
+void forgetIcons()
+{
+    if (!iconFiles.isDestroyed()) {
+        iconFiles->clear();
+    }
+}
+
+/**
+ * Returns the picture @p name of the current theme. All buttons with one picture share its icon, so
+ * that a list of thousands of layers reads and keeps it once; a file that has changed is read
+ * again.
+ */
 QIcon themeIcon(const char *name)
 {
-    return QIcon(TalvoStyleManager::instance()->currentThemePath() + QLatin1String("qssimage/") +
-                 QLatin1String(name) + QLatin1String(".png"));
+    const QString path = TalvoStyleManager::instance()->currentThemePath() +
+                         QLatin1String("qssimage/") + QLatin1String(name) + QLatin1String(".png");
+    if (iconFiles->isEmpty()) {
+        qAddPostRoutine(forgetIcons);
+    }
+    IconFile &file = (*iconFiles)[path];
+    const QFileInfo info(path);
+    const QDateTime modified = info.lastModified();
+    if (file.icon.isNull() || file.size != info.size() || file.modified != modified) {
+        file = {modified, info.size(), QIcon(path)};
+    }
+    return file.icon;
 }
 
 } // namespace
