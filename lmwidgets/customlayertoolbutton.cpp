@@ -5,6 +5,7 @@
 #include <QColor>
 #include <QCoreApplication>
 #include <QDateTime>
+#include <QEvent>
 #include <QFileInfo>
 #include <QHash>
 #include <QIcon>
@@ -103,6 +104,18 @@ void customLayerToolButton::setLockState(bool locked)
 void customLayerToolButton::setVisibleState(bool visible)
 {
     setIcon(themeIcon(visible ? "layer_view" : "layer_dis_view"));
+}
+
+bool customLayerToolButton::event(QEvent *event)
+{
+    // A widget that has been shown asks to be painted, even where its parent hides it. Qt compares
+    // each one that asks with all its siblings: the buttons below the edge of a long list take
+    // seconds for it.
+    if (event->type() == QEvent::UpdateLater && !isWindow() &&
+        !parentWidget()->rect().intersects(geometry())) {
+        return true;
+    }
+    return QToolButton::event(event);
 }
 
 void customLayerToolButton::setColor(const QColor &color)

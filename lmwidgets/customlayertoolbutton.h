@@ -66,6 +66,9 @@ public:
      */
     void setColor(const QColor &color);
 
+protected:
+    bool event(QEvent *event) override;
+
 private:
     Q_DISABLE_COPY(customLayerToolButton)
 
