@@ -6,7 +6,6 @@
 #include <lmwidgets/frameline.h>
 #include <lmwidgets/titlebar.h>
 
-#include <QAction>
 #include <QCoreApplication>
 #include <QGuiApplication>
 #include <QHBoxLayout>
@@ -38,8 +37,8 @@ const QColor SolidBorderColor(0x38, 0x38, 0x38);
 const char TitleBarStyle[] = "color:#F2F2F2;font-size:16px;background-color:#2B2B2B;";
 const char MessageBoxLogoStyle[] =
     "background-color: transparent;border:none;padding: 6px 0px 0px 20px;";
-// The blanks inside "background - color" make Qt skip that one declaration, so the title shows the
-// title bar's own background; hosts compare the text as it is.
+// Qt cannot read a sheet that begins with "background - color" and drops all of it, so the title
+// keeps the title bar's own look. Hosts compare the text as it is, blanks included.
 const char MessageBoxTitleStyle[] =
     "background - color: #1C1C1C; border:none; font-size: 16px;color: #ffffff;"
     "padding: -10px 0px 5px 0px; ";
@@ -47,7 +46,7 @@ const char MessageBoxTitleStyle[] =
 } // namespace
 
 FramelessDialogPrivate::FramelessDialogPrivate(FramelessDialog *dialog)
-    : q(dialog), keyboardActivation(dialog)
+    : q(dialog), keyboardActivation(dialog), unmanagedWindowState(dialog)
 {
 }
 
@@ -105,6 +104,30 @@ void FramelessDialogPrivate::createBottomRow()
     bottomLayout->addWidget(cancelButton);
     bottomLayout->addWidget(applyButton);
     bottomLayout->addWidget(okButton);
+}
+
+void FramelessDialogPrivate::putButtonsLastInTabOrder()
+{
+    if (tabOrderSettled) {
+        return;
+    }
+    tabOrderSettled = true;
+    if (okButton->nextInFocusChain() != cancelButton ||
+        cancelButton->nextInFocusChain() != applyButton) {
+        return;
+    }
+    QWidget *last = nullptr;
+    for (QWidget *widget = applyButton->nextInFocusChain(); widget != q && widget != okButton;
+         widget = widget->nextInFocusChain()) {
+        if (widget->focusPolicy() != Qt::NoFocus && !bottomWidget->isAncestorOf(widget)) {
+            last = widget;
+        }
+    }
+    if (last) {
+        QWidget::setTabOrder(last, cancelButton);
+        QWidget::setTabOrder(cancelButton, applyButton);
+        QWidget::setTabOrder(applyButton, okButton);
+    }
 }
 
 void FramelessDialogPrivate::createHelper()
@@ -380,6 +403,9 @@ void FramelessDialog::setRubberBandOnResize(bool rubberBand)
 
 void FramelessDialog::setHorizontalLineHeight(int height)
 {
+    if (height < 0) {
+        return;
+    }
     if (d->topSeparator) {
         d->topSeparator->setFixedHeight(height);
     }
@@ -465,6 +491,7 @@ void FramelessDialog::showEvent(QShowEvent *event)
 {
     QDialog::showEvent(event);
     setFixedSize(size());
+    d->putButtonsLastInTabOrder();
 }
 
 } // namespace Widgets

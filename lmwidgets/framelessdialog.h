@@ -110,7 +110,11 @@ public:
     void setCancelButtonVisible(bool visible);
     /** Shows or hides the Apply button; hidden at start. */
     void setApplyButtonVisible(bool visible);
-    /** Whether Enter clicks OK; true at start. */
+    /**
+     * Calls QPushButton::setDefault() on OK, which is the default button at start. OK is also an
+     * auto-default button: to keep Enter from clicking it, make another button the default or turn
+     * its autoDefault off.
+     */
     void setOKButtonDefault(bool isDefault);
 
     /** Shows or hides the title bar's close button; shown at start. */
@@ -168,7 +172,7 @@ public:
     void setRubberBandOnMove(bool rubberBand);
     /** Whether a rubber band is resized in the dialog's place until the release; false at start. */
     void setRubberBandOnResize(bool rubberBand);
-    /** Sets the height in px of both separators; 1 at start. */
+    /** Sets the height in px of both separators; 1 at start. A negative one is ignored. */
     void setHorizontalLineHeight(int height);
 
     /** Gives the title bar the look of a message box, with the logo button shown. */
@@ -202,6 +206,7 @@ protected:
      * margin. */
     void drawSolidBorder(QPaintEvent *event);
 
+    /** Paints the background with drawShadowBorder(). */
     void paintEvent(QPaintEvent *event) override;
     /** Freezes the dialog at the size that it is shown with. */
     void showEvent(QShowEvent *event) override;

@@ -139,10 +139,12 @@ void HelperWidgetData::handleMouseRelease(const QMouseEvent *event)
     if (event->button() != Qt::LeftButton) {
         return;
     }
+    const QPointer<QWidget> widget = m_widget;
     const bool bandShown = m_rubberBand && m_rubberBand->isVisible();
+    const QRect bandGeometry = bandShown ? m_rubberBand->geometry() : QRect();
     endGesture();
-    if (bandShown) {
-        m_widget->setGeometry(m_rubberBand->geometry());
+    if (bandShown && widget) {
+        widget->setGeometry(bandGeometry);
     }
 }
 
@@ -344,7 +346,8 @@ void FramelessHelper::activateOn(QWidget *widget)
     // QWidget says that it goes before it deletes its children, so that a helper which is a child
     // of its widget has forgotten it by the time of its own destruction, and no longer tries to
     // restore it.
-    connect(widget, &QObject::destroyed, this, [this, widget] { delete d->widgets.take(widget); });
+    data->destroyedConnection = connect(widget, &QObject::destroyed, this,
+                                        [this, widget] { delete d->widgets.take(widget); });
 }
 
 void FramelessHelper::removeFrom(QWidget *widget)
@@ -354,7 +357,7 @@ void FramelessHelper::removeFrom(QWidget *widget)
         return;
     }
     widget->removeEventFilter(this);
-    disconnect(widget, &QObject::destroyed, this, nullptr);
+    disconnect(data->destroyedConnection);
     data->restoreWidget();
     delete data;
 }
@@ -431,11 +434,13 @@ unsigned int FramelessHelper::titleHeight()
 
 bool FramelessHelper::eventFilter(QObject *watched, QEvent *event)
 {
-    const QPointer<QObject> guard(watched);
     // Only widgets are ever watched, and the table is asked by address alone.
-    if (HelperWidgetData *data = d->widgets.value(static_cast<QWidget *>(watched))) {
-        data->handleEvent(event);
+    HelperWidgetData *data = d->widgets.value(static_cast<QWidget *>(watched));
+    if (!data) {
+        return QObject::eventFilter(watched, event);
     }
+    const QPointer<QObject> guard(watched);
+    data->handleEvent(event);
     // Host code that ran meanwhile may have destroyed the widget, and this helper as its child.
     // Only then is the event stopped, so that Qt does not deliver it to what is gone.
     return guard.isNull();

@@ -65,10 +65,12 @@ public:
 
     /** Whether dragging by the title area moves the widgets; true at start. */
     void setWidgetMovable(bool movable);
+    /** Returns whether dragging by the title area moves the widgets. */
     bool widgetMovable();
 
     /** Whether edges and corners resize the widgets and show resize cursors; true at start. */
     void setWidgetResizable(bool resizable);
+    /** Returns whether edges and corners resize the widgets. */
     bool widgetResizable();
 
     /**
@@ -77,10 +79,12 @@ public:
      * takes the band's geometry, that inset included.
      */
     void setRubberBandOnMove(bool rubberBand);
+    /** Returns whether a drag moves a rubber band first. */
     bool rubberBandOnMove();
 
     /** Whether resizing stretches a rubber band and the widget only at release; false at start. */
     void setRubberBandOnResize(bool rubberBand);
+    /** Returns whether resizing stretches a rubber band first. Hosts call it by this spelling. */
     bool rubberBandOnResisze();
 
     /**
@@ -88,6 +92,7 @@ public:
      * included. One value for all helpers of the process. 0 is ignored.
      */
     void setBorderWidth(unsigned int width);
+    /** Returns the width in px of the band along each edge. */
     unsigned int borderWidth();
 
     /**
@@ -96,10 +101,14 @@ public:
      * its own title bar's 48 when it is built. 0 is ignored.
      */
     void setTitleHeight(unsigned int height);
+    /** Returns the height in px of the title area below its first 10 px. */
     unsigned int titleHeight();
 
 protected:
-    /** Follows the mouse on the registered widgets. Never consumes an event. */
+    /**
+     * Follows the mouse on the registered widgets. Consumes no event, but stops one whose widget
+     * was destroyed by what it set off.
+     */
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:

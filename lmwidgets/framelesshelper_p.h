@@ -2,6 +2,7 @@
 #define LMWIDGETS_FRAMELESSHELPER_P_H
 
 #include <QHash>
+#include <QObject>
 #include <QPoint>
 #include <QRect>
 
@@ -40,6 +41,8 @@ struct CursorRegion
 class FramelessHelperPrivate
 {
 public:
+    FramelessHelperPrivate() = default;
+
     QHash<QWidget *, HelperWidgetData *> widgets;
     bool widgetMovable = true;
     bool widgetResizable = true;
@@ -49,6 +52,9 @@ public:
     // Shared by all helpers of the process; hosts set them once, through any helper.
     static unsigned int borderWidth;
     static unsigned int titleHeight;
+
+private:
+    Q_DISABLE_COPY(FramelessHelperPrivate)
 };
 
 /** What the helper knows of one widget, from its registration to its removal. */
@@ -71,7 +77,12 @@ public:
      */
     void handleEvent(QEvent *event);
 
+    /** The helper's own connection to the widget's destroyed(). */
+    QMetaObject::Connection destroyedConnection;
+
 private:
+    Q_DISABLE_COPY(HelperWidgetData)
+
     void handleMousePress(const QMouseEvent *event);
     void handleMouseRelease(const QMouseEvent *event);
     void handleMouseMove(const QMouseEvent *event);

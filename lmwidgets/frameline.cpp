@@ -5,6 +5,8 @@
 #include <QVariant>
 #include <QVBoxLayout>
 
+#include <limits>
+
 namespace LM {
 namespace Widgets {
 
@@ -15,7 +17,8 @@ QFrame *createLine(const QString &propertyName, QWidget *parent, int lineWidth)
 {
     auto *line = new QFrame(parent);
     line->setFrameShadow(QFrame::Plain);
-    line->setLineWidth(lineWidth);
+    // QFrame keeps it in a short, in which a larger one would come out negative.
+    line->setLineWidth(qMin<int>(lineWidth, std::numeric_limits<short>::max()));
     if (!propertyName.isEmpty()) {
         line->setProperty(propertyName.toUtf8().constData(), true);
     }

@@ -16,8 +16,10 @@ namespace Widgets {
  * On X11 nobody hands the input focus to such a window: shown while no other window of the
  * application is active it gets no key at all, and once another application has taken the focus a
  * click into the dialog does not bring it back. So the dialog is activated when it is shown, unless
- * it carries Qt::WA_ShowWithoutActivating, and when the mouse is pressed on it while it is
- * inactive.
+ * it carries Qt::WA_ShowWithoutActivating, and when the mouse is pressed on it, or on a native
+ * child of it, while it is inactive. A dialog with Qt::WindowDoesNotAcceptFocus is left alone.
+ *
+ * On Windows the system does both itself, and a second request changes nothing.
  */
 class KeyboardActivation : public QObject
 {
@@ -29,6 +31,12 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void followDialog(const QEvent *event);
+    void activate();
+
+    /** Whether @p watched is the dialog's window or one inside it, such as an OpenGL view. */
+    bool isWindowOfDialog(const QObject *watched) const;
+
     QWidget *m_dialog;
 };
 

@@ -1,8 +1,7 @@
 #include <lmwidgets/talvodialogbase.h>
 
-#include <lmwidgets/talvostylemanager.h>
+#include "talvostylemanager_p.h"
 
-#include <QCoreApplication>
 #include <QHash>
 #include <QPointer>
 
@@ -11,11 +10,16 @@ namespace Widgets {
 
 namespace {
 
+// How often one switch may be followed by others that initStyleSheet() makes itself: enough for any
+// implementation that settles on a theme, and an end for one that never does.
+constexpr int MaximumRebuilds = 8;
+
 /** Dialogs whose initStyleSheet() is running, and whether a switch arrived for them meanwhile. */
 QHash<TalvoDialogBase *, bool> &runningRebuilds()
 {
-    static QHash<TalvoDialogBase *, bool> rebuilds;
-    return rebuilds;
+    // Never destroyed: a dialog of static duration still asks it when the process ends.
+    static auto *rebuilds = new QHash<TalvoDialogBase *, bool>;
+    return *rebuilds;
 }
 
 } // namespace
@@ -31,8 +35,8 @@ TalvoDialogBase::~TalvoDialogBase()
     runningRebuilds().remove(this);
     // From here on there is no initStyleSheet() to call, yet the destruction of the children can
     // still run host code that switches the theme.
-    if (QCoreApplication::instance()) {
-        TalvoStyleManager::instance()->disconnect(this);
+    if (TalvoStyleManager *manager = existingStyleManager()) {
+        manager->disconnect(this);
     }
 }
 
@@ -46,12 +50,20 @@ void TalvoDialogBase::onInitStyleSheet()
     }
 
     const QPointer<TalvoDialogBase> guard(this);
+    TalvoStyleManager *manager = TalvoStyleManager::instance().data();
     rebuilds.insert(this, false);
-    initStyleSheet();
-    if (guard && rebuilds.value(this)) {
-        // Once, and not until it stops asking: an implementation that switches the theme each time
-        // it is called would never end.
+    for (int count = 0; count < MaximumRebuilds; ++count) {
+        const TalvoStyleManager::ThemeStyleType style = manager->currentStyle();
         initStyleSheet();
+        if (!guard || !rebuilds.value(this)) {
+            break;
+        }
+        // The switch that came meanwhile gets its call now. Later ones get theirs as long as they
+        // change something: an implementation that switches each time it is called would never end.
+        if (count > 0 && manager->currentStyle() == style) {
+            break;
+        }
+        rebuilds[this] = false;
     }
     if (guard) {
         rebuilds.remove(this);

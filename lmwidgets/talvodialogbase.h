@@ -21,7 +21,10 @@ namespace Widgets {
  * class Report : public LM::Widgets::TalvoDialogBase
  * {
  * public:
- *     void initStyleSheet() override { setStyleSheet(sheetFor(manager()->currentStyle())); }
+ *     void initStyleSheet() override
+ *     {
+ *         setStyleSheet(sheetFor(LM::Widgets::TalvoStyleManager::instance()->currentStyle()));
+ *     }
  * };
  * @endcode
  */
@@ -41,8 +44,9 @@ public:
      * Sets the style sheet for the current theme. Called on each theme switch, not by the
      * constructor.
      *
-     * An implementation may switch the theme itself: the call for that second switch follows when
-     * it has returned, so it is not entered twice at once. It may also destroy the dialog.
+     * An implementation may destroy the dialog, and may switch the theme itself: it is not entered
+     * again from within, but called once more when it has returned, until the theme no longer
+     * changes; after eight calls it is left alone until the next switch.
      */
     virtual void initStyleSheet() = 0;
 

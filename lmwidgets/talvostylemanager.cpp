@@ -1,16 +1,38 @@
 #include <lmwidgets/talvostylemanager.h>
 
+#include "talvostylemanager_p.h"
+
 #include <lmwidgets/talvodialogbase.h>
 
 #include <QCoreApplication>
 #include <QThread>
 
+#include <atomic>
+
 namespace LM {
 namespace Widgets {
 
-TalvoStyleManager::TalvoStyleManager() = default;
+namespace {
 
-TalvoStyleManager::~TalvoStyleManager() = default;
+// Trivially destructible, so that it can be asked at any time until the process has ended.
+std::atomic<TalvoStyleManager *> existingManager{nullptr};
+
+} // namespace
+
+TalvoStyleManager *existingStyleManager()
+{
+    return existingManager;
+}
+
+TalvoStyleManager::TalvoStyleManager()
+{
+    existingManager = this;
+}
+
+TalvoStyleManager::~TalvoStyleManager()
+{
+    existingManager = nullptr;
+}
 
 QScopedPointer<TalvoStyleManager> &TalvoStyleManager::instance()
 {

@@ -29,9 +29,9 @@ class TalvoDialogBase;
  *
  * @code
  * auto *manager = LM::Widgets::TalvoStyleManager::instance().data();
- * QObject::connect(manager, &LM::Widgets::TalvoStyleManager::themeStyleShift, window,
- * &Window::restyle); manager->shiftStyle(LM::Widgets::TalvoStyleManager::White); const QIcon
- * lock(manager->currentThemePath() + QStringLiteral("qssimage/layer_lock.png"));
+ * connect(manager, &LM::Widgets::TalvoStyleManager::themeStyleShift, window, &Window::restyle);
+ * manager->shiftStyle(LM::Widgets::TalvoStyleManager::White);
+ * const QIcon lock(manager->currentThemePath() + QStringLiteral("qssimage/layer_lock.png"));
  * @endcode
  *
  * instance() may be called from any thread. Everything else belongs to the GUI thread.
@@ -42,7 +42,7 @@ class LMWIDGETS_EXPORT TalvoStyleManager : public QObject
 
 public:
     /** The colour themes. Any other value counts as Black when a path is built. */
-    enum ThemeStyleType {
+    enum ThemeStyleType : int {
         Black = 0, ///< images in "/theme/Black/"; the theme at start
         White = 1, ///< images in "/theme/White/"
         Blue = 2   ///< images in "/theme/Blue/"
@@ -53,8 +53,8 @@ public:
 
     /**
      * Returns the pointer that owns the one manager. The first call, from whichever thread, creates
-     * it; it then lives on the application's thread until the process ends. Do not reset or take
-     * it.
+     * it; it then lives until the process ends, on the application's thread if there is an
+     * application by then, else on the caller's. Do not reset or take it.
      */
     static QScopedPointer<TalvoStyleManager> &instance();
 

@@ -25,7 +25,7 @@ constexpr QSize ButtonSize(20, 20);
 constexpr int LogoButtonWidth = 42;
 constexpr int ExtraButtonSpacing = 2;
 
-// Owners rely on these two factors to balance what they put into the placeholder against the logo.
+// Owners that fill the placeholder lay out against exactly these two stretch factors.
 constexpr int PlaceholderStretch = 65;
 constexpr int LogoStretch = 64;
 
@@ -45,6 +45,8 @@ QString themeImage(const char *name)
 TitleBarPrivate::TitleBarPrivate(TitleBar *titleBar)
 {
     titleLabel = new QLabel(titleBar);
+    // A window's title is text: the name of a file must not turn into markup.
+    titleLabel->setTextFormat(Qt::PlainText);
     titleLabel->setProperty("isTitleBarTitle", true);
     createButtons(titleBar);
     styleButtons();
@@ -76,8 +78,8 @@ void TitleBarPrivate::styleButtons()
     buttons[TitleBar::CloseButton]->setProperty("isTitleBarCloseButton", true);
 
     QIcon closeIcon(themeImage("smallwindowcloseicon"));
-    // No separator between the two: a host that wants its own hover and disabled picture names the
-    // file so. Where there is none the theme's image serves for all modes.
+    // The two parts are joined without a separator, and hosts' installations are made for exactly
+    // that file name. Where there is no such file the theme's image serves for all modes.
     const QPixmap hostPixmap(QCoreApplication::applicationDirPath() +
                              QLatin1String("qssimage/smallwindowcloseicon.png"));
     closeIcon.addPixmap(hostPixmap, QIcon::Active, QIcon::Off);

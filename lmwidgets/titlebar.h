@@ -56,8 +56,12 @@ public:
     explicit TitleBar(QWidget *parent = nullptr);
     ~TitleBar() override;
 
-    /** Sets the text, and its alignment to left and vertically centred, each time. */
+    /**
+     * Sets the text, shown as plain text, and its alignment to left and vertically centred, each
+     * time.
+     */
     void setTitle(const QString &title);
+    /** Returns the text. */
     QString title();
 
     /** Aligns the title within its label, until the next setTitle(). */

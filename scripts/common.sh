@@ -7,7 +7,10 @@ root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
 # What a build needs on Debian 12, and what the tests need on top of it.
 build_packages=(g++ cmake ninja-build qtbase5-dev fonts-dejavu-core)
-test_packages=(clang-format openbox python3 x11-utils xdotool xvfb)
+test_packages=(clang-format libxfixes-dev openbox python3 x11-utils xdotool xvfb)
+
+# Set when packages were installed: what CMake found before may no longer be all there is.
+reconfigure=
 
 say() {
     printf '==> %s\n' "$*"
@@ -43,13 +46,14 @@ need_packages() {
     "${as_root[@]}" apt-get update -qq
     "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
         apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+    reconfigure=yes
 }
 
-# build PRESET [TARGET...]: configures build/PRESET if that is not done yet, and builds.
+# build PRESET [TARGET...]: configures build/PRESET where needed, and builds.
 build() {
     local preset=$1 dir="$root/build/$1"
     shift
-    if [ ! -f "$dir/build.ninja" ]; then
+    if [ ! -f "$dir/build.ninja" ] || [ -n "$reconfigure" ]; then
         local launcher=()
         if command -v ccache >/dev/null; then
             launcher=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)

@@ -2,6 +2,7 @@
 
 #include <QFont>
 #include <QHoverEvent>
+#include <QMetaMethod>
 #include <QMouseEvent>
 #include <QStyle>
 #include <QStyleFactory>
@@ -53,6 +54,25 @@ void hoverMove(QWidget *widget, const QPoint &pos)
 {
     QHoverEvent event(QEvent::HoverMove, pos, pos);
     QApplication::sendEvent(widget, &event);
+}
+
+QStringList ownMethods(const QMetaObject &metaObject)
+{
+    QStringList methods;
+    for (int index = metaObject.methodOffset(); index < metaObject.methodCount(); ++index) {
+        const QMetaMethod method = metaObject.method(index);
+        QStringList parameters;
+        for (int i = 0; i < method.parameterCount(); ++i) {
+            const QByteArray name = method.parameterNames().at(i);
+            const QByteArray type = method.parameterTypes().at(i);
+            parameters.append(QString::fromLatin1(name.isEmpty() ? type : type + ' ' + name));
+        }
+        const bool isSignal = method.methodType() == QMetaMethod::Signal;
+        methods.append(QLatin1String(isSignal ? "signal " : "slot ") +
+                       QString::fromLatin1(method.name()) + QLatin1Char('(') +
+                       parameters.join(QLatin1String(", ")) + QLatin1Char(')'));
+    }
+    return methods;
 }
 
 QString themeDir()

@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QPoint>
 #include <QString>
+#include <QStringList>
 #include <QtTest>
 
 namespace lmtest {
@@ -34,6 +35,12 @@ void mouseAt(QWidget *widget, QEvent::Type type, const QPoint &globalPos,
 
 /** Sends a hover move at @p pos, which is in the coordinates of @p widget. */
 void hoverMove(QWidget *widget, const QPoint &pos);
+
+/**
+ * The methods that @p metaObject itself declares, in the order of their indices, each in the form
+ * "signal name(type name, type)" or "slot name()".
+ */
+QStringList ownMethods(const QMetaObject &metaObject);
 
 /** The folder of the default theme beside the test program, without a slash at its end. */
 QString themeDir();

@@ -1,0 +1,93 @@
+#ifndef DESKTOP_H
+#define DESKTOP_H
+
+/** @file
+ * A desktop of the test's own: an X server without a screen, a window manager, mouse and keyboard,
+ * and the host applications that run on it. Everything is waited for; nothing sleeps for a fixed
+ * time.
+ */
+
+#include <QPoint>
+#include <QProcess>
+#include <QRect>
+#include <QString>
+#include <QStringList>
+#include <QTemporaryDir>
+
+/** The X server and the window manager. Both end with this object. */
+class Desktop
+{
+public:
+    ~Desktop();
+
+    /** Starts both. Returns an empty text, or what went wrong and how to mend it. */
+    QString start();
+
+    /** The environment in which programs find this desktop. */
+    QProcessEnvironment environment() const { return m_environment; }
+
+    /** Runs xdotool with @p arguments. Returns what it printed; a null text when it failed. */
+    QString xdotool(const QStringList &arguments) const;
+    /** The same, with arguments separated by blanks. */
+    QString xdotool(const QString &arguments) const;
+
+    /** A fingerprint of the mouse pointer as it looks at this moment; a null text on failure. */
+    QString pointerPicture() const;
+
+private:
+    QString startServer();
+    QString startWindowManager();
+    QString run(const QString &program, const QStringList &arguments) const;
+
+    QTemporaryDir m_runtimeDir;
+    QProcessEnvironment m_environment;
+    QProcess m_server;
+    QProcess m_windowManager;
+};
+
+/** One run of desktop_host. Ends with this object. */
+class Host : public QObject
+{
+    Q_OBJECT
+
+public:
+    Host(const Desktop &desktop, const QString &scenario);
+    ~Host() override;
+
+    /** From here on waitFor() and hasSaid() look only at what the host says afterwards. */
+    void mark() { m_mark = m_lines.size(); }
+
+    /** Waits until the host has said a line that @p pattern, a regular expression, matches
+     * entirely. */
+    bool waitFor(const QString &pattern);
+    /** Returns whether it has said one since the mark. */
+    bool hasSaid(const QString &pattern) const;
+
+    /** Waits until @p window stands at @p geometry. */
+    bool waitForGeometry(const QString &window, const QRect &geometry);
+    /** Returns the geometry of @p window according to the host's last words about it. */
+    QRect lastGeometry(const QString &window) const;
+
+    /** Asks where the visible widget @p name stands on the screen; an invalid rectangle if nowhere.
+     */
+    QRect where(const QString &name);
+    /** Asks where the popup is that is open now; an invalid rectangle if there is none. */
+    QRect popup();
+    /** Gives an order, see Reporter. */
+    void order(const QString &line);
+
+    /** All that the host has said, with the mark, for the message of a failure. */
+    QString report(const QString &missing) const;
+
+private:
+    QRect ask(const QString &question);
+    void readLines();
+
+    QProcess m_process;
+    QByteArray m_rest;
+    QStringList m_lines;
+    QString m_scenario;
+    int m_mark = 0;
+};
+
+#endif

@@ -1,0 +1,218 @@
+/** @file
+ * A small host application for tests on a real desktop. It opens the windows of the scenario that
+ * is named on its command line and tells the driver what happens to them, see Reporter.
+ */
+
+#include "reporter.h"
+
+#include <lmwidgets/framelessdialog.h>
+#include <lmwidgets/titlebar.h>
+
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScopedPointer>
+#include <QStyleFactory>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include <functional>
+
+using LM::Widgets::FramelessDialog;
+using LM::Widgets::TitleBar;
+
+namespace {
+
+constexpr QRect MainGeometry(60, 60, 360, 260);
+constexpr QPoint DialogPosition(300, 150);
+constexpr QSize DialogSize(420, 300);
+
+QLineEdit *makeEdit(const QString &name)
+{
+    auto *edit = new QLineEdit;
+    edit->setObjectName(name);
+    Reporter::follow(edit);
+    return edit;
+}
+
+/** A window that the window manager manages: it has a line edit and a button. */
+QWidget *makeMain(const QString &name)
+{
+    auto *window = new QWidget;
+    window->setObjectName(name);
+    window->setWindowTitle(name);
+    auto *layout = new QVBoxLayout(window);
+    layout->addWidget(makeEdit(name + QLatin1String("-edit")));
+    auto *button = new QPushButton(QStringLiteral("Open"));
+    button->setObjectName(name + QLatin1String("-button"));
+    Reporter::follow(button);
+    layout->addWidget(button);
+    layout->addStretch();
+    window->setGeometry(MainGeometry);
+    return window;
+}
+
+/** A frameless dialog with a line edit, a combo box and a second line edit. */
+FramelessDialog *makeDialog(QWidget *parent)
+{
+    auto *dialog = new FramelessDialog(parent);
+    dialog->setObjectName(QStringLiteral("dialog"));
+    dialog->setWindowTitle(QStringLiteral("Layer"));
+
+    QLineEdit *edit = makeEdit(QStringLiteral("edit"));
+    auto *box = new QComboBox;
+    box->setObjectName(QStringLiteral("box"));
+    box->addItems({QStringLiteral("red"), QStringLiteral("green"), QStringLiteral("blue")});
+    Reporter::follow(box);
+
+    auto *layout = new QVBoxLayout;
+    layout->setContentsMargins(16, 16, 16, 16);
+    layout->addWidget(edit);
+    layout->addWidget(box);
+    layout->addWidget(makeEdit(QStringLiteral("second")));
+    layout->addStretch();
+    dialog->setLayout(layout);
+
+    TitleBar *titleBar = dialog->getTitleBar();
+    titleBar->titleButton(TitleBar::MinButton)->setObjectName(QStringLiteral("minimize"));
+    titleBar->titleButton(TitleBar::MaxButton)->setObjectName(QStringLiteral("maximize"));
+    titleBar->titleButton(TitleBar::RestoreButton)->setObjectName(QStringLiteral("restore"));
+    titleBar->titleButton(TitleBar::CloseButton)->setObjectName(QStringLiteral("close"));
+    dialog->GetOKButton()->setObjectName(QStringLiteral("ok"));
+    dialog->GetCancelButton()->setObjectName(QStringLiteral("cancel"));
+    Reporter::follow(dialog->GetOKButton());
+    Reporter::follow(dialog->GetCancelButton());
+    Reporter::follow(dialog);
+
+    dialog->move(DialogPosition);
+    dialog->resize(DialogSize);
+    edit->setFocus();
+    return dialog;
+}
+
+void runDialog()
+{
+    makeDialog(nullptr)->show();
+}
+
+void runResizable(bool rubberBand)
+{
+    FramelessDialog *dialog = makeDialog(nullptr);
+    dialog->setDialogResizable(true);
+    dialog->setRubberBandOnResize(rubberBand);
+    dialog->setRubberBandOnMove(rubberBand);
+    dialog->show();
+    // Each show freezes the size.
+    dialog->setMinimumSize(360, 280);
+    dialog->setMaximumSize(900, 700);
+}
+
+/** A window with one label for each cursor that a resizable dialog shows, for comparison. */
+void runCursors()
+{
+    const struct
+    {
+        const char *name;
+        Qt::CursorShape shape;
+    } cursors[] = {{"arrow", Qt::ArrowCursor},
+                   {"hor", Qt::SizeHorCursor},
+                   {"ver", Qt::SizeVerCursor},
+                   {"fdiag", Qt::SizeFDiagCursor},
+                   {"bdiag", Qt::SizeBDiagCursor}};
+
+    auto *window = new QWidget;
+    window->setObjectName(QStringLiteral("cursors"));
+    auto *layout = new QVBoxLayout(window);
+    for (const auto &cursor : cursors) {
+        auto *label = new QLabel(QLatin1String(cursor.name));
+        label->setObjectName(QLatin1String(cursor.name));
+        label->setCursor(cursor.shape);
+        layout->addWidget(label);
+    }
+    window->setGeometry(MainGeometry);
+    window->show();
+}
+
+void runOther()
+{
+    QWidget *window = makeMain(QStringLiteral("other"));
+    window->move(700, 60);
+    window->show();
+}
+
+/** A window whose button shows the dialog, which is its child or has no parent. */
+FramelessDialog *runWithMain(bool isChild)
+{
+    QWidget *main = makeMain(QStringLiteral("main"));
+    main->show();
+    FramelessDialog *dialog = makeDialog(isChild ? main : nullptr);
+    QObject::connect(main->findChild<QPushButton *>(), &QPushButton::clicked, dialog,
+                     [dialog] { dialog->show(); });
+    return dialog;
+}
+
+/** A window whose button runs the dialog as hosts do: on the stack of a slot, until it has ended.
+ */
+void runModal()
+{
+    QWidget *main = makeMain(QStringLiteral("main"));
+    main->show();
+    QObject::connect(main->findChild<QPushButton *>(), &QPushButton::clicked, main, [main] {
+        const QScopedPointer<FramelessDialog> dialog(makeDialog(main));
+        dialog->setMinButtonVisible(true);
+        Reporter::say(QStringLiteral("exec %1").arg(dialog->exec()));
+    });
+}
+
+FramelessDialog *makeDialogWithTitleButtons(QWidget *parent)
+{
+    FramelessDialog *dialog = makeDialog(parent);
+    dialog->setMinButtonVisible(true);
+    dialog->setMaxButtonVisible(true);
+    return dialog;
+}
+
+void runTitleButtonsWithParent()
+{
+    QWidget *main = makeMain(QStringLiteral("main"));
+    main->show();
+    makeDialogWithTitleButtons(main)->show();
+}
+
+QHash<QString, std::function<void()>> scenarios()
+{
+    return {
+        {QStringLiteral("dialog"), runDialog},
+        {QStringLiteral("resizable"), [] { runResizable(false); }},
+        {QStringLiteral("resizable-band"), [] { runResizable(true); }},
+        {QStringLiteral("cursors"), runCursors},
+        {QStringLiteral("other"), runOther},
+        {QStringLiteral("modeless"), [] { runWithMain(true); }},
+        {QStringLiteral("parentless"), [] { runWithMain(false); }},
+        {QStringLiteral("modal"), runModal},
+        {QStringLiteral("title-buttons"), [] { makeDialogWithTitleButtons(nullptr)->show(); }},
+        {QStringLiteral("title-buttons-parent"), runTitleButtonsWithParent},
+        {QStringLiteral("maximized-first"),
+         [] { makeDialogWithTitleButtons(nullptr)->showMaximized(); }},
+    };
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    Reporter reporter;
+
+    const std::function<void()> run = scenarios().value(application.arguments().value(1));
+    if (!run) {
+        Reporter::say(QStringLiteral("unknown scenario"));
+        return 2;
+    }
+    run();
+    return QApplication::exec();
+}
