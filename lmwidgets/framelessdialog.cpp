@@ -416,10 +416,17 @@ void FramelessDialog::setHorizontalLineHeight(int height)
 
 void FramelessDialog::setMessageboxStyleSheet()
 {
-    d->titleBar->getButtonByType(TitleBar::LogoButton)
-        ->setStyleSheet(QLatin1String(MessageBoxLogoStyle));
-    d->titleBar->titleLabel()->setObjectName(QStringLiteral("Messageboxtitlelabel"));
-    d->titleBar->titleLabel()->setStyleSheet(QLatin1String(MessageBoxTitleStyle));
+    QToolButton *logo = d->titleBar->getButtonByType(TitleBar::LogoButton);
+    QLabel *title = d->titleBar->titleLabel();
+    // A message box calls this from within its layout. Each setStyleSheet(), also with the same text,
+    // asks for another layout; without the comparison that would never end.
+    if (logo->styleSheet() != QLatin1String(MessageBoxLogoStyle)) {
+        logo->setStyleSheet(QLatin1String(MessageBoxLogoStyle));
+    }
+    title->setObjectName(QStringLiteral("Messageboxtitlelabel"));
+    if (title->styleSheet() != QLatin1String(MessageBoxTitleStyle)) {
+        title->setStyleSheet(QLatin1String(MessageBoxTitleStyle));
+    }
     d->titleBar->setTitleButtonVisible(TitleBar::LogoButton, true);
 }
 

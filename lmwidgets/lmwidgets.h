@@ -9,13 +9,16 @@
 #include <lmwidgets/customdelegate.h>
 #include <lmwidgets/customlayertablewidget.h>
 #include <lmwidgets/customlayertoolbutton.h>
+#include <lmwidgets/detailbutton.h>
 #include <lmwidgets/framelessdialog.h>
 #include <lmwidgets/framelesshelper.h>
+#include <lmwidgets/framelessmessagebox.h>
 #include <lmwidgets/frameline.h>
 #include <lmwidgets/kvitemdoublespinboxdelegate.h>
 #include <lmwidgets/kvitemlineeditdelegate.h>
 #include <lmwidgets/linetypecombobox.h>
 #include <lmwidgets/lmwidgets_global.h>
+#include <lmwidgets/qmessageboxdetailstext.h>
 #include <lmwidgets/talvodialogbase.h>
 #include <lmwidgets/talvostylemanager.h>
 #include <lmwidgets/titlebar.h>

@@ -1,0 +1,11 @@
+// The list of pages, in the order in which the gallery shows them. A line LMGALLERY_PAGE(name)
+// stands for the file pages/<name>page.cpp, which defines `Page <name>Page()` in the namespace
+// gallery: a new page is that file and one line here. The build reads this list too. Included
+// wherever the list is gone through, with LMGALLERY_PAGE defined as what is to be done for each; so
+// it has no include guard.
+
+LMGALLERY_PAGE(theme)
+LMGALLERY_PAGE(frame)
+LMGALLERY_PAGE(messagebox)
+
+#undef LMGALLERY_PAGE

@@ -1,0 +1,249 @@
+#include "shooter.h"
+
+#include "mainwindow.h"
+#include "page.h"
+#include "signallog.h"
+#include "themes.h"
+
+#include <lmwidgets/talvostylemanager.h>
+
+#include <QApplication>
+#include <QDialog>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QEvent>
+#include <QImage>
+#include <QPainter>
+#include <QPixmap>
+#include <QPointer>
+#include <QTextStream>
+#include <QTimer>
+#include <QWindow>
+
+#include <functional>
+
+namespace gallery {
+
+using LM::Widgets::TalvoStyleManager;
+
+const char WindowName[] = "window";
+
+namespace {
+
+constexpr int PageWidth = 960;
+constexpr int SettleLimit = 5000;
+constexpr int EventSlice = 20;
+constexpr int QuietRounds = 2;
+
+constexpr int BackdropMargin = 16;
+constexpr int BackdropTile = 8;
+const QColor BackdropColor(0x8A, 0x92, 0x9A);
+const QColor BackdropTileColor(0x9A, 0xA2, 0xAA);
+
+/** Notes whether anything in the application still moves, grows or changes its style. */
+class LayoutProbe : public QObject
+{
+public:
+    LayoutProbe() { qApp->installEventFilter(this); }
+
+    bool takeBusy()
+    {
+        const bool busy = m_busy;
+        m_busy = false;
+        return busy;
+    }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        switch (event->type()) {
+        case QEvent::LayoutRequest:
+        case QEvent::Move:
+        case QEvent::Polish:
+        case QEvent::Resize:
+        case QEvent::Show:
+        case QEvent::StyleChange:
+            m_busy = true;
+            break;
+        default:
+            break;
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    bool m_busy = false;
+};
+
+/** Fills @p area with the backdrop; the tiles show where the window is that lets them through. */
+void paintBackdrop(QPainter &painter, const QSize &size, const QRect &window)
+{
+    painter.fillRect(QRect(QPoint(0, 0), size), BackdropColor);
+    painter.setClipRect(window);
+    for (int y = 0; y < window.height(); y += BackdropTile) {
+        for (int x = 0; x < window.width(); x += BackdropTile) {
+            if ((x + y) / BackdropTile % 2 == 0) {
+                painter.fillRect(window.x() + x, window.y() + y, BackdropTile, BackdropTile,
+                                 BackdropTileColor);
+            }
+        }
+    }
+    painter.setClipping(false);
+}
+
+/** Writes pictures into a folder and says so. */
+class Camera
+{
+public:
+    Camera(const QString &directory, QTextStream &out, QTextStream &err)
+        : m_directory(directory), m_out(out), m_err(err)
+    {
+    }
+
+    /** Takes the picture of @p widget and destroys it. */
+    bool take(QWidget *widget, const QString &name)
+    {
+        const QPointer<QWidget> guard(widget);
+        const bool written = write(widget, name);
+        delete guard.data();
+        return written;
+    }
+
+    /** Takes the picture of the modal dialog that @p exec opens, and closes it. */
+    bool takeModal(const std::function<void()> &exec, const QString &name)
+    {
+        bool written = false;
+        QTimer::singleShot(0, qApp, [this, &written, &name] {
+            const QPointer<QWidget> dialog(QApplication::activeModalWidget());
+            written = write(dialog, name);
+            if (auto *opened = qobject_cast<QDialog *>(dialog.data())) {
+                opened->reject();
+            }
+        });
+        exec();
+        return written;
+    }
+
+private:
+    bool write(QWidget *widget, const QString &name)
+    {
+        const QString path = m_directory.filePath(name + QStringLiteral(".png"));
+        if (!settle(widget)) {
+            m_err << "lmgallery: " << name << " did not appear\n";
+            return false;
+        }
+        if (!takePicture(widget).save(path)) {
+            m_err << "lmgallery: cannot write " << QDir::toNativeSeparators(path) << '\n';
+            return false;
+        }
+        m_out << QDir::toNativeSeparators(path) << '\n';
+        return true;
+    }
+
+    QDir m_directory;
+    QTextStream &m_out;
+    QTextStream &m_err;
+};
+
+bool shootPage(const Page &page, const QString &prefix, Camera &camera)
+{
+    SignalLog log;
+    QWidget *view = page.createView(log);
+    view->ensurePolished();
+    const int width = qMax(PageWidth, view->minimumSizeHint().width());
+    view->setFixedWidth(width);
+    view->setFixedHeight(view->hasHeightForWidth() ? view->heightForWidth(width)
+                                                   : view->sizeHint().height());
+    view->show();
+    settle(view);
+    // A window that becomes active gives its first control the focus, which then looks chosen.
+    if (QWidget *focused = view->focusWidget()) {
+        focused->clearFocus();
+    }
+    bool written = camera.take(view, prefix + page.name());
+    for (const Shot &shot : page.shots()) {
+        const QString name = prefix + page.name() + QLatin1Char('-') + shot.name;
+        const bool taken =
+            shot.open ? camera.take(shot.open(), name) : camera.takeModal(shot.exec, name);
+        written = written && taken;
+    }
+    return written;
+}
+
+bool shootWindow(const QString &prefix, Camera &camera)
+{
+    auto *window = new MainWindow;
+    window->show();
+    TalvoStyleManager::instance()->updateSectionThickness(QStringLiteral("A-A"), 0.25);
+    TalvoStyleManager::instance()->updateMappingPointSize(true, 5);
+    return camera.take(window, prefix + QLatin1String(WindowName));
+}
+
+} // namespace
+
+bool settle(QWidget *widget)
+{
+    if (!widget) {
+        return false;
+    }
+    const QPointer<QWidget> guard(widget);
+    LayoutProbe probe;
+    QElapsedTimer timer;
+    timer.start();
+    int quiet = 0;
+    while (guard && quiet < QuietRounds && timer.elapsed() < SettleLimit) {
+        QCoreApplication::sendPostedEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QCoreApplication::processEvents(QEventLoop::AllEvents, EventSlice);
+        const QWindow *window = guard ? guard->windowHandle() : nullptr;
+        const bool busy = probe.takeBusy();
+        quiet = window && window->isExposed() && !busy ? quiet + 1 : 0;
+    }
+    return guard && guard->isVisible();
+}
+
+QImage takePicture(QWidget *widget)
+{
+    const QPixmap pixmap = widget->grab();
+    if (!widget->testAttribute(Qt::WA_TranslucentBackground)) {
+        return pixmap.toImage();
+    }
+    const QSize margin(2 * BackdropMargin, 2 * BackdropMargin);
+    const QRect window(QPoint(BackdropMargin, BackdropMargin), widget->size());
+    const QSize size = widget->size() + margin;
+    QImage image(size * pixmap.devicePixelRatioF(), QImage::Format_RGB32);
+    image.setDevicePixelRatio(pixmap.devicePixelRatioF());
+    QPainter painter(&image);
+    paintBackdrop(painter, size, window);
+    painter.drawPixmap(window.topLeft(), pixmap);
+    return image;
+}
+
+bool shoot(const QString &directory, const QStringList &themes, const QStringList &pageNames,
+           QTextStream &out, QTextStream &err)
+{
+    if (!QDir().mkpath(directory)) {
+        err << "lmgallery: cannot create " << QDir::toNativeSeparators(directory) << '\n';
+        return false;
+    }
+    // A text cursor that blinks would make no two pictures alike.
+    const int flashTimeBefore = QApplication::cursorFlashTime();
+    QApplication::setCursorFlashTime(0);
+    const Theme themeBefore = TalvoStyleManager::instance()->currentStyle();
+    Camera camera(directory, out, err);
+    bool written = true;
+    for (const QString &theme : themes) {
+        TalvoStyleManager::instance()->shiftStyle(themeFromName(theme));
+        const QString prefix = theme + QLatin1Char('-');
+        for (const QString &name : pageNames) {
+            const Page *page = findPage(name);
+            written =
+                (page ? shootPage(*page, prefix, camera) : shootWindow(prefix, camera)) && written;
+            out.flush();
+        }
+    }
+    TalvoStyleManager::instance()->shiftStyle(themeBefore);
+    QApplication::setCursorFlashTime(flashTimeBefore);
+    return written;
+}
+
+} // namespace gallery
