@@ -2,11 +2,40 @@
 
 #include <QAbstractItemModel>
 #include <QDoubleSpinBox>
+#include <QKeyEvent>
 #include <QtNumeric>
 
 namespace {
 
 constexpr int decimals = 3;
+
+/**
+ * The editor of cells that may be empty. QDoubleSpinBox puts its last value back into an empty
+ * field on Return, before the delegate is asked to write it, and on the arrow keys and the wheel.
+ */
+class EmptiableSpinBox : public QDoubleSpinBox
+{
+public:
+    explicit EmptiableSpinBox(QWidget *parent) : QDoubleSpinBox(parent) {}
+
+    void stepBy(int steps) override
+    {
+        if (!text().isEmpty()) {
+            QDoubleSpinBox::stepBy(steps);
+        }
+    }
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override
+    {
+        const bool returns = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+        if (returns && text().isEmpty()) {
+            event->ignore();
+            return;
+        }
+        QDoubleSpinBox::keyPressEvent(event);
+    }
+};
 
 } // namespace
 
@@ -36,7 +65,7 @@ void kvItemDoubleSpinboxDelegate::setEnableEmptyStr(bool enable)
 QWidget *kvItemDoubleSpinboxDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &,
                                                    const QModelIndex &) const
 {
-    auto *editor = new QDoubleSpinBox(parent);
+    auto *editor = m_enableEmptyString ? new EmptiableSpinBox(parent) : new QDoubleSpinBox(parent);
     editor->setButtonSymbols(QAbstractSpinBox::NoButtons);
     editor->setDecimals(decimals);
     editor->setMinimum(m_minValue);

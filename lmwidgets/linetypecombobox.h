@@ -28,10 +28,8 @@ namespace Widgets {
  *
  * @code
  * auto *box = new LM::Widgets::LineTypeComboBox(this);
- * connect(box, QOverload<int>::of(&QComboBox::currentIndexChanged), this, [this, box](int index) {
- *     if (index >= 0) {
- *         m_layer->setLineType(box->itemData(index).toString());
- *     }
+ * connect(box, QOverload<int>::of(&QComboBox::activated), this, [this, box](int index) {
+ *     m_layer->setLineType(box->itemData(index).toString());
  * });
  * @endcode
  *
@@ -78,12 +76,22 @@ public:
      */
     void addLineType(const QString &name, const QString &pattern);
 
+    /**
+     * Returns the width of a combo box without items, however wide the pictures are, and the height
+     * that QComboBox asks for.
+     */
+    QSize sizeHint() const override;
+    /** Returns the same width as sizeHint(), and the height that QComboBox asks for at least. */
+    QSize minimumSizeHint() const override;
+
 protected:
     /** Makes the items anew in the new width. */
     void resizeEvent(QResizeEvent *event) override;
 
 private:
     Q_DISABLE_COPY(LineTypeComboBox)
+
+    QSize appendItem(const QString &name, const QString &pattern, int width);
 
     QMap<QString, QString> m_extraLineTypes;
     QVector<QPair<QString, QString>> m_lineTypes;
