@@ -7,5 +7,6 @@
 LMGALLERY_PAGE(theme)
 LMGALLERY_PAGE(frame)
 LMGALLERY_PAGE(messagebox)
+LMGALLERY_PAGE(layers)
 
 #undef LMGALLERY_PAGE
