@@ -112,6 +112,11 @@ void FramelessDialogPrivate::putButtonsLastInTabOrder()
         return;
     }
     tabOrderSettled = true;
+    if (okButton->isHidden() && cancelButton->isHidden() && applyButton->isHidden()) {
+        // A message box has buttons of its own in this row. Moving the hidden ones behind the
+        // content would give the keyboard to its leftmost button in place of the one that accepts.
+        return;
+    }
     if (okButton->nextInFocusChain() != cancelButton ||
         cancelButton->nextInFocusChain() != applyButton) {
         return;
@@ -418,8 +423,8 @@ void FramelessDialog::setMessageboxStyleSheet()
 {
     QToolButton *logo = d->titleBar->getButtonByType(TitleBar::LogoButton);
     QLabel *title = d->titleBar->titleLabel();
-    // A message box calls this from within its layout. Each setStyleSheet(), also with the same text,
-    // asks for another layout; without the comparison that would never end.
+    // A message box calls this from within its layout. Each setStyleSheet(), also with the same
+    // text, asks for another layout; without the comparison that would never end.
     if (logo->styleSheet() != QLatin1String(MessageBoxLogoStyle)) {
         logo->setStyleSheet(QLatin1String(MessageBoxLogoStyle));
     }

@@ -44,7 +44,9 @@ class TitleBar;
  * the mouse needs setDialogResizable(true) and, after show(), limits of its own.
  *
  * It bypasses the window manager, and therefore activates itself when it is shown and when it is
- * clicked, so that it takes the keyboard on X11 too.
+ * clicked, so that it takes the keyboard on X11 too. There it also fills its screen itself when it
+ * is maximised and takes its former geometry when it is restored; minimised, it goes and comes back
+ * with the window that owns it, and without one it stays where it is.
  */
 class LMWIDGETS_EXPORT FramelessDialog : public TalvoDialogBase
 {
