@@ -10,6 +10,8 @@
  * With --all, the plain tables are filled with 10,000 rows as well, which takes minutes.
  */
 
+#include "bench.h"
+
 #include <lmwidgets/customlayertablewidget.h>
 #include <lmwidgets/talvostylemanager.h>
 
@@ -21,9 +23,7 @@
 #include <QToolButton>
 #include <QVector>
 
-#include <algorithm>
 #include <cmath>
-#include <ctime>
 #include <functional>
 #include <memory>
 
@@ -37,15 +37,7 @@ const char *const kindNames[KindCount] = {"layer list", "plain", "plain, styled"
 
 double cpuMilliseconds()
 {
-    return 1000.0 * double(std::clock()) / double(CLOCKS_PER_SEC);
-}
-
-double median(QVector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    const int middle = values.size() / 2;
-    return values.size() % 2 ? values.at(middle)
-                             : (values.at(middle - 1) + values.at(middle)) / 2.0;
+    return 1000.0 * bench::cpuSeconds();
 }
 
 void settle()
@@ -139,28 +131,34 @@ double addingTime(Kind kind, int rows)
     return cpuMilliseconds() - start;
 }
 
-/** One more row in a table of @p rows rows, until it is on the screen. */
-double oneMoreTime(Kind kind, int rows)
+/** A visible table with @p rows rows that stands on the screen. */
+std::unique_ptr<QTableWidget> filledTable(Kind kind, int rows)
 {
-    constexpr int Repetitions = 20;
-    const auto table = visibleTable(kind);
+    auto table = visibleTable(kind);
     addRows(kind, table.get(), rows);
     settle();
+    return table;
+}
+
+/** One more row, until it is on the screen. */
+double oneMoreTime(Kind kind, QTableWidget *table)
+{
+    constexpr int Repetitions = 5;
     const double start = cpuMilliseconds();
     for (int i = 0; i < Repetitions; ++i) {
-        addRows(kind, table.get(), 1);
+        addRows(kind, table, 1);
         settle();
     }
     return (cpuMilliseconds() - start) / Repetitions;
 }
 
-double scrollTime(Kind kind, int rows)
+double scrollTime(Kind kind, QTableWidget *table)
 {
-    constexpr int Steps = 100;
-    const auto table = visibleTable(kind);
-    addRows(kind, table.get(), rows);
-    settle();
+    Q_UNUSED(kind)
+    constexpr int Steps = 50;
     QScrollBar *bar = table->verticalScrollBar();
+    bar->setValue(0);
+    settle();
     const double start = cpuMilliseconds();
     for (int i = 1; i <= Steps; ++i) {
         bar->setValue(int(double(bar->maximum()) * i / Steps));
@@ -169,21 +167,14 @@ double scrollTime(Kind kind, int rows)
     return (cpuMilliseconds() - start) / Steps;
 }
 
-double repaintTime(Kind kind, int rows)
+/** Paints all that can be seen. */
+double repaintTime(Kind kind, QTableWidget *table)
 {
-    constexpr int Repetitions = 50;
-    const auto table = visibleTable(kind);
-    addRows(kind, table.get(), rows);
-    settle();
+    Q_UNUSED(kind)
+    constexpr int Repetitions = 20;
     const double start = cpuMilliseconds();
     for (int i = 0; i < Repetitions; ++i) {
         table->viewport()->update();
-        for (QWidget *button : table->viewport()->findChildren<QWidget *>()) {
-            if (button->y() > 600) {
-                break;
-            }
-            button->update();
-        }
         settle();
     }
     return (cpuMilliseconds() - start) / Repetitions;
@@ -207,7 +198,7 @@ Times compare(const std::function<double(Kind)> &measure, int rounds, int kinds 
     }
     Times result(KindCount);
     for (int kind = 0; kind < kinds; ++kind) {
-        result[kind] = median(all.at(kind));
+        result[kind] = bench::median(all.at(kind));
     }
     return result;
 }
@@ -247,7 +238,9 @@ void printGrowth(QTextStream &out, const QString &what, const Times &less, const
 
 int main(int argc, char **argv)
 {
+    bench::prepareEnvironment();
     QApplication application(argc, argv);
+    bench::prepareApplication();
     const bool all = application.arguments().contains(QStringLiteral("--all"));
     QTextStream out(stdout);
 
@@ -262,14 +255,17 @@ int main(int argc, char **argv)
     printGrowth(out, QStringLiteral("growth exponent 1,000 to 10,000"), thousand, tenThousand);
 
     for (const int rows : {100, 1000}) {
-        print(out, QStringLiteral("one more row after %1").arg(rows),
-              compare([rows](Kind kind) { return oneMoreTime(kind, rows); }, 3));
-    }
-    for (const int rows : {100, 1000}) {
+        std::unique_ptr<QTableWidget> tables[KindCount];
+        for (int kind = 0; kind < KindCount; ++kind) {
+            tables[kind] = filledTable(Kind(kind), rows);
+        }
+        const auto measureWith = [&tables](double (*time)(Kind, QTableWidget *)) {
+            return compare([&](Kind kind) { return time(kind, tables[kind].get()); }, 7);
+        };
         print(out, QStringLiteral("scroll a step through %1 rows").arg(rows),
-              compare([rows](Kind kind) { return scrollTime(kind, rows); }, 5));
-        print(out, QStringLiteral("repaint %1 rows").arg(rows),
-              compare([rows](Kind kind) { return repaintTime(kind, rows); }, 5));
+              measureWith(scrollTime));
+        print(out, QStringLiteral("repaint with %1 rows").arg(rows), measureWith(repaintTime));
+        print(out, QStringLiteral("one more row after %1").arg(rows), measureWith(oneMoreTime));
     }
     return 0;
 }

@@ -167,6 +167,18 @@ void setRowHeights(QTableWidget *table)
     }
 }
 
+bool isInACell(const QTableWidget *table, const QWidget *widget)
+{
+    for (int row = 0; row < table->rowCount(); ++row) {
+        for (int column = 0; column < table->columnCount(); ++column) {
+            if (table->cellWidget(row, column) == widget) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
 template <typename Editor>
 Editor *editorAt(const QTableWidget *table, int row)
 {
@@ -370,9 +382,9 @@ void CustomLayerTableWidget::chooseColor(int row, customLayerToolButton *button)
 {
     const QPointer<customLayerToolButton> guard(button);
     const QColor color = LayerColorDialog::ask(this);
-    // The button goes with its row and with the table. Without it the number may mean another
-    // layer.
-    if (guard && color.isValid()) {
+    // The button goes with the table, or a little later than its row. Without its row the number
+    // may mean another layer.
+    if (guard && color.isValid() && isInACell(this, button)) {
         button->setColor(color);
         Q_EMIT signalUpdateModel(row, QVariant(color), BUTTON_COLOR);
     }

@@ -103,13 +103,16 @@ public:
      * layer list.
      *
      * The name is drawn by a CustomDelegate, a new one for each row, which serves the whole column
-     * 0. The time that it takes does not depend on the rows that are there already.
+     * 0. Many rows
+     * added in one go, without the event loop running in between, take time in proportion to their
+     * number.
      */
     void addLayerRow();
 
     /**
      * Shows the name, the line style and the line width in @p values. Style and width are looked up
-     * among the item data of their boxes; what is not found selects nothing. A list of any other
+     * among the item data of their boxes; what is not found selects nothing, and
+     * a box of line styles has its items from the time that it is first shown. A list of any other
      * length than 3 is ignored, and so is each cell whose widget is not of the panel's type. No
      * signal is emitted, neither by the table nor by the editors.
      */

@@ -3,10 +3,10 @@
 #include <lmwidgets/talvostylemanager.h>
 
 #include <QColor>
-#include <QCoreApplication>
 #include <QDateTime>
 #include <QEvent>
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QHash>
 #include <QIcon>
 #include <QPixmap>
@@ -26,6 +26,7 @@ struct IconFile
 {
     QDateTime modified;
     qint64 size = -1;
+    qreal pixelRatio = 0.0; // decides whether the file for double resolution was looked for
     QIcon icon;
 };
 
@@ -55,8 +56,10 @@ QIcon themeIcon(const char *name)
     IconFile &file = (*iconFiles)[path];
     const QFileInfo info(path);
     const QDateTime modified = info.lastModified();
-    if (file.icon.isNull() || file.size != info.size() || file.modified != modified) {
-        file = {modified, info.size(), QIcon(path)};
+    const qreal pixelRatio = qApp->devicePixelRatio();
+    if (file.icon.isNull() || file.size != info.size() || file.modified != modified ||
+        file.pixelRatio < pixelRatio) {
+        file = {modified, info.size(), pixelRatio, QIcon(path)};
     }
     return file.icon;
 }

@@ -1164,6 +1164,7 @@ void tst_CustomLayerTableWidget::goneWhileColorDialogIsOpen_data()
     QTest::newRow("table deleted") << 4;
     QTest::newRow("table's parent deleted") << 5;
     QTest::newRow("rows added") << 6;
+    QTest::newRow("row removed just now") << 7;
 }
 
 void tst_CustomLayerTableWidget::goneWhileColorDialogIsOpen()
@@ -1204,6 +1205,11 @@ void tst_CustomLayerTableWidget::goneWhileColorDialogIsOpen()
         case 5:
             delete window;
             break;
+        case 7:
+            // The button lives until the event loop deletes it.
+            table->removeRow(0);
+            frameGuard->GetOKButton()->click();
+            return;
         default:
             for (int i = 0; i < 50; ++i) {
                 table->addLayerRow();

@@ -3,9 +3,12 @@
 #include <lmwidgets/customlayertoolbutton.h>
 #include <lmwidgets/talvostylemanager.h>
 
+#include <QDir>
 #include <QImage>
 #include <QLabel>
 #include <QPixmap>
+#include <QProcess>
+#include <QTemporaryDir>
 
 #include <memory>
 
@@ -74,6 +77,8 @@ private Q_SLOTS:
     void keyboardClicks();
     void buttonsDoNotShareALaterPicture();
     void widgetIsDestroyedWithItsParent();
+    void changedFilesAreReadAgain();
+    void ownTheme();
 };
 
 void tst_customLayerToolButton::initTestCase()
@@ -399,6 +404,69 @@ void tst_customLayerToolButton::widgetIsDestroyedWithItsParent()
     QTest::mouseClick(button.data(), Qt::LeftButton);
     QVERIFY(!button);
     QVERIFY(!parent);
+}
+
+/** The theme lies beside the program, so the test on its files runs a copy of itself elsewhere. */
+void tst_customLayerToolButton::changedFilesAreReadAgain()
+{
+    const QTemporaryDir dir;
+    QVERIFY(dir.isValid());
+    const QString program = dir.filePath(QStringLiteral("tst_owntheme"));
+    QVERIFY(QFile::copy(QCoreApplication::applicationFilePath(), program));
+    for (const char *theme : {"Black", "White", "Blue"}) {
+        const QString images = QStringLiteral("/%1/qssimage/").arg(QLatin1String(theme));
+        QVERIFY(QDir().mkpath(dir.path() + QStringLiteral("/theme") + images));
+        for (const char *name : {"delete_2dvec", "layer_edit", "layer_lock", "layer_unlock",
+                                 "layer_view", "layer_dis_view"}) {
+            const QString file = images + QLatin1String(name) + QStringLiteral(".png");
+            QVERIFY(QFile::copy(lmtest::themeDir() + file,
+                                dir.path() + QStringLiteral("/theme") + file));
+        }
+    }
+    QProcess process;
+    process.setProcessChannelMode(QProcess::MergedChannels);
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("LMTEST_OWN_THEME"), QStringLiteral("1"));
+    process.setProcessEnvironment(environment);
+    process.start(program, {QStringLiteral("ownTheme")});
+    QVERIFY(process.waitForFinished());
+    const QByteArray output = process.readAll();
+    QVERIFY2(process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0, output);
+    QVERIFY2(output.contains("PASS   : tst_customLayerToolButton::ownTheme"), output);
+}
+
+void tst_customLayerToolButton::ownTheme()
+{
+    if (!qEnvironmentVariableIsSet("LMTEST_OWN_THEME")) {
+        QSKIP("run by changedFilesAreReadAgain()");
+    }
+    const QString path = lmtest::themeDir() + QStringLiteral("/Black/qssimage/layer_lock.png");
+    const auto write = [&path](const QColor &color, int size) {
+        QFile::remove(path);
+        QImage image(size, size, QImage::Format_ARGB32);
+        image.fill(color);
+        return image.save(path);
+    };
+    customLayerToolButton first(0, 3);
+    customLayerToolButton second(1, 3);
+    first.setLockState(true);
+    const QImage original = shown(first);
+
+    QVERIFY(write(Qt::red, 20));
+    second.setLockState(true);
+    QVERIFY(isFilled(shown(second), Qt::red));
+    QCOMPARE(shown(first), original);
+    first.setLockState(true);
+    QVERIFY(isFilled(shown(first), Qt::red));
+
+    // Without its file a button shows nothing, and finds the file when there is one again.
+    QVERIFY(QFile::remove(path));
+    first.setLockState(true);
+    QVERIFY(first.icon().pixmap(20, 20).isNull());
+    QVERIFY(isFilled(shown(second), Qt::red));
+    QVERIFY(write(Qt::blue, 40));
+    first.setLockState(true);
+    QVERIFY(isFilled(shown(first), Qt::blue));
 }
 
 LMTEST_MAIN(tst_customLayerToolButton)
