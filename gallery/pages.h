@@ -9,5 +9,6 @@ LMGALLERY_PAGE(frame)
 LMGALLERY_PAGE(messagebox)
 LMGALLERY_PAGE(linetypes)
 LMGALLERY_PAGE(delegates)
+LMGALLERY_PAGE(layers)
 
 #undef LMGALLERY_PAGE

@@ -7,6 +7,8 @@
 
 #include <lmwidgets/checkboxheaderview.h>
 #include <lmwidgets/customdelegate.h>
+#include <lmwidgets/customlayertablewidget.h>
+#include <lmwidgets/customlayertoolbutton.h>
 #include <lmwidgets/detailbutton.h>
 #include <lmwidgets/framelessdialog.h>
 #include <lmwidgets/framelesshelper.h>

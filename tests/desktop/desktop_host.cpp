@@ -3,6 +3,7 @@
  * is named on its command line and tells the driver what happens to them, see Reporter.
  */
 
+#include "layerscenario.h"
 #include "reporter.h"
 
 #include <lmwidgets/framelessdialog.h>
@@ -280,6 +281,7 @@ QHash<QString, std::function<void()>> scenarios()
         {QStringLiteral("box-static"), [] { runBox(askByStaticFunction); }},
         {QStringLiteral("box-alone"),
          [] { QTimer::singleShot(0, [] { askWithStandardButtons(nullptr); }); }},
+        {QStringLiteral("layers"), runLayers},
         {QStringLiteral("maximized-first"),
          [] { makeDialogWithTitleButtons(nullptr)->showMaximized(); }},
     };
