@@ -95,7 +95,7 @@ int widthWithoutPictures(const QComboBox *box, const QStyleOptionComboBox &optio
     const int letters = box->minimumContentsLength();
     const bool adjustsToContents =
         policy == QComboBox::AdjustToContents || policy == QComboBox::AdjustToContentsOnFirstShow;
-    int contents = 0;
+    int contents = QSize().width(); // what QComboBox begins with
     if (adjustsToContents && (!minimum || letters == 0)) {
         contents = emptyBoxLetters * metrics.horizontalAdvance(QLatin1Char('x'));
     }
