@@ -407,6 +407,28 @@ void tst_FramelessMessageBox::deletedInFinishedByClosing()
     QVERIFY(waitForShown(box));
     QTest::mouseClick(closeButton(box), Qt::LeftButton);
     QTRY_VERIFY(!guard);
+
+    // At once, from either signal, by the title button and by the host.
+    for (bool fromFinished : {false, true}) {
+        for (bool byTitleButton : {false, true}) {
+            auto *other =
+                new FramelessMessageBox(QMessageBox::NoIcon, QString(), QString(), QMessageBox::Ok);
+            const QPointer<FramelessMessageBox> otherGuard(other);
+            if (fromFinished) {
+                connect(other, &QDialog::finished, this, [other] { delete other; });
+            } else {
+                connect(other, &QDialog::rejected, this, [other] { delete other; });
+            }
+            other->show();
+            QVERIFY(waitForShown(other));
+            if (byTitleButton) {
+                QTest::mouseClick(closeButton(other), Qt::LeftButton);
+            } else {
+                other->close();
+            }
+            QVERIFY(!otherGuard);
+        }
+    }
 }
 
 void tst_FramelessMessageBox::buttonDeletedInFinished()

@@ -313,7 +313,13 @@ void tst_FramelessMessageBoxContent::styleChange()
     const bool centred = buttonBox(&box)->centerButtons();
     QVERIFY(!centred);
 
+    QPixmap foreign(16, 16);
+    foreign.fill(Qt::magenta);
+    box.setWindowIcon(QIcon(foreign));
     QApplication::setStyle(new CentringStyle);
+    // The image of the icon is read again, and takes its place back.
+    QCOMPARE(box.windowIcon().pixmap(16, 16).toImage(), box.iconPixmap().toImage());
+    QVERIFY(box.iconPixmap().toImage() != foreign.toImage());
     QVERIFY(buttonBox(&box)->centerButtons());
     QCOMPARE(box.textInteractionFlags(), Qt::TextBrowserInteraction);
     QCOMPARE(informativeLabel()->textInteractionFlags(), Qt::TextBrowserInteraction);

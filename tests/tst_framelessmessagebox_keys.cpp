@@ -347,7 +347,11 @@ void tst_FramelessMessageBoxKeys::windowModality()
     FramelessMessageBox orphan(QMessageBox::NoIcon, QString(), QString(),
                                QMessageBox::Yes | QMessageBox::No);
     orphan.setDefaultButton(QMessageBox::No);
+    // The stored button is not made the default again.
+    pushButton(&orphan, QMessageBox::Yes)->setDefault(true);
     orphan.setWindowModality(Qt::WindowModal);
+    QVERIFY(pushButton(&orphan, QMessageBox::Yes)->isDefault());
+    QVERIFY(!pushButton(&orphan, QMessageBox::No)->isDefault());
     QCOMPARE(orphan.windowType(), Qt::Dialog);
     QCOMPARE(orphan.defaultButton(), pushButton(&orphan, QMessageBox::No));
 }

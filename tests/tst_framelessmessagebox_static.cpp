@@ -83,6 +83,14 @@ void tst_FramelessMessageBoxStatic::staticOverloads()
              QMessageBox::No);
 }
 
+static QString imageFile(QMessageBox::Icon icon)
+{
+    const char *name = icon == QMessageBox::Information ? "success"
+                       : icon == QMessageBox::Critical  ? "warning"
+                                                        : "ask";
+    return lmtest::themeDir() + QStringLiteral("/qssimage/%1.png").arg(QLatin1String(name));
+}
+
 void tst_FramelessMessageBoxStatic::staticBoxes()
 {
     QWidget parent;
@@ -111,6 +119,9 @@ void tst_FramelessMessageBoxStatic::staticBoxes()
         bool seen = false;
         whenShown([&](FramelessMessageBox *box) {
             QCOMPARE(box->icon(), one.icon);
+            const QImage image = box->windowIcon().pixmap(16, 16).toImage();
+            QVERIFY(!image.isNull());
+            QCOMPARE(image, QIcon(imageFile(one.icon)).pixmap(16, 16).toImage());
             QCOMPARE(box->windowTitle(), t);
             QCOMPARE(box->text(), m);
             QCOMPARE(box->parentWidget(), &parent);
@@ -229,7 +240,8 @@ void tst_FramelessMessageBoxStatic::aboutBox()
         QCOMPARE(box->text(), QStringLiteral("It is good."));
         QCOMPARE(box->standardButtons(), QMessageBox::Ok);
         QCOMPARE(box->icon(), QMessageBox::NoIcon);
-        QCOMPARE(box->iconPixmap().isNull(), box->windowIcon().isNull());
+        QVERIFY(!box->iconPixmap().isNull());
+        QCOMPARE(box->iconPixmap().toImage(), box->windowIcon().pixmap(16, 16).toImage());
         QTest::mouseClick(box->button(QMessageBox::Ok), Qt::LeftButton);
     });
     FramelessMessageBox::about(&parent, QStringLiteral("About it"), QStringLiteral("It is good."));

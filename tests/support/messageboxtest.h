@@ -43,10 +43,13 @@ constexpr int GiveUpAfter = 20000;
 inline void whenShown(const Act &act)
 {
     QTimer::singleShot(0, qApp, [act] {
-        auto *box = qobject_cast<Box *>(QApplication::activeModalWidget());
-        QVERIFY(box);
         // A box that nothing closes must not keep the program until CTest kills it.
-        QTimer::singleShot(GiveUpAfter, box, [box] { box->done(-12345); });
+        QWidget *modal = QApplication::activeModalWidget();
+        if (auto *dialog = qobject_cast<QDialog *>(modal)) {
+            QTimer::singleShot(GiveUpAfter, dialog, [dialog] { dialog->done(-12345); });
+        }
+        auto *box = qobject_cast<Box *>(modal);
+        QVERIFY(box);
         box->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(box));
         act(box);
