@@ -5,11 +5,16 @@
  * Includes every public header of the library.
  */
 
+#include <lmwidgets/checkboxheaderview.h>
+#include <lmwidgets/customdelegate.h>
 #include <lmwidgets/detailbutton.h>
 #include <lmwidgets/framelessdialog.h>
 #include <lmwidgets/framelesshelper.h>
 #include <lmwidgets/framelessmessagebox.h>
 #include <lmwidgets/frameline.h>
+#include <lmwidgets/kvitemdoublespinboxdelegate.h>
+#include <lmwidgets/kvitemlineeditdelegate.h>
+#include <lmwidgets/linetypecombobox.h>
 #include <lmwidgets/lmwidgets_global.h>
 #include <lmwidgets/qmessageboxdetailstext.h>
 #include <lmwidgets/talvodialogbase.h>

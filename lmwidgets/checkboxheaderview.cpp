@@ -1,0 +1,73 @@
+#include <lmwidgets/checkboxheaderview.h>
+
+#include <lmwidgets/talvostylemanager.h>
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPixmap>
+#include <QPointer>
+
+namespace LM {
+namespace Widgets {
+
+CheckBoxHeaderView::CheckBoxHeaderView(int checkColumnIndex, QPoint topLeft, QSize size,
+                                       Qt::Orientation orientation, QWidget *parent)
+    : QHeaderView(orientation, parent),
+      m_checkColumn(checkColumnIndex),
+      m_position(topLeft),
+      m_size(size)
+{
+}
+
+CheckBoxHeaderView::~CheckBoxHeaderView() = default;
+
+void CheckBoxHeaderView::setCheckState(bool state)
+{
+    m_checked = state;
+}
+
+void CheckBoxHeaderView::mousePressEvent(QMouseEvent *event)
+{
+    if (!event) {
+        return;
+    }
+    const QPointer<CheckBoxHeaderView> self(this);
+    // The place on the screen is compared with the logical check column: hosts that move sections
+    // rely on the box staying with the place. Past the last section there is no place, whatever the
+    // column.
+    const int section = visualIndexAt(event->x());
+    if (section >= 0 && section == m_checkColumn) {
+        m_checked = !m_checked;
+        updateSection(m_checkColumn);
+        Q_EMIT signalCheckStateChanged(m_checked);
+        if (!self) {
+            return;
+        }
+    }
+    Q_EMIT sectionClicked(visualIndexAt(event->x()));
+    if (self) {
+        QHeaderView::mousePressEvent(event);
+    }
+}
+
+void CheckBoxHeaderView::paintSection(QPainter *painter, const QRect &rect, int logicalIndex) const
+{
+    if (!painter) {
+        return;
+    }
+    painter->save();
+    QHeaderView::paintSection(painter, rect, logicalIndex);
+    painter->restore();
+
+    if (logicalIndex != m_checkColumn || m_size.isEmpty()) {
+        return;
+    }
+    // Read on every paint, so that the picture follows a theme switch; QPixmap keeps decoded files.
+    const QString themePath = TalvoStyleManager::instance()->currentThemePath();
+    const QPixmap selected(themePath + QStringLiteral("qssimage/selected.png"));
+    const QPixmap unselected(themePath + QStringLiteral("qssimage/unselected.png"));
+    painter->drawPixmap(QRect(m_position, m_size), m_checked ? selected : unselected);
+}
+
+} // namespace Widgets
+} // namespace LM

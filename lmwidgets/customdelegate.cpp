@@ -1,0 +1,36 @@
+#include <lmwidgets/customdelegate.h>
+
+#include <QStyleOptionViewItem>
+
+namespace LM {
+namespace Widgets {
+
+namespace {
+
+constexpr int indentedColumn = 0;
+constexpr int indentation = 14;
+
+} // namespace
+
+CustomDelegate::CustomDelegate(QObject *parent) : QStyledItemDelegate(parent) {}
+
+CustomDelegate::~CustomDelegate() = default;
+
+void CustomDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
+                           const QModelIndex &index) const
+{
+    if (!painter || !index.isValid()) {
+        return;
+    }
+    if (index.column() != indentedColumn) {
+        QStyledItemDelegate::paint(painter, option, index);
+        return;
+    }
+    QStyleOptionViewItem indented = option;
+    initStyleOption(&indented, index);
+    indented.rect.moveLeft(indented.rect.left() + indentation);
+    QStyledItemDelegate::paint(painter, indented, index);
+}
+
+} // namespace Widgets
+} // namespace LM
