@@ -165,6 +165,8 @@ int FlowLayout::doLayout(const QRect &rect, bool testOnly) const
         const int spaceY = vertical == -1 ? itemSpacing(item, Qt::Vertical) : vertical;
         const QSize hint = itemSizeHint(i);
         qint64 nextX = x + hint.width() + spaceX;
+        // The edge behind the item is compared with the last column, so that column stays free:
+        // an item that would just fit wraps. Hosts sized their panels by the resulting heights.
         if (nextX - spaceX > effective.right() && lineHeight > 0) {
             x = effective.x();
             y += lineHeight + spaceY;
