@@ -3,6 +3,8 @@
 #include <lmwidgets/groupboxcollapsebutton.h>
 #include <lmwidgets/talvostylemanager.h>
 
+#include "layoutpause_p.h"
+
 #include <QApplication>
 #include <QEvent>
 #include <QLatin1String>
@@ -14,6 +16,10 @@
 #include <QStyleOptionGroupBox>
 #include <QVector>
 
+#include <map>
+#include <memory>
+
+using LM::Widgets::LayoutPause;
 using LM::Widgets::TalvoStyleManager;
 
 namespace {
@@ -76,6 +82,13 @@ QString buttonStyle(const QString &name)
                           "CollapsibleGroupBox > QToolButton#%1:focus {"
                           "  border: 1px solid palette(highlight); }")
         .arg(name);
+}
+
+/** Whether @p widget is somewhere in the panel of @p area, which a host may have taken out of it.
+ */
+bool isIn(const QScrollArea *area, const QWidget *widget)
+{
+    return widget && area->widget() && area->widget()->isAncestorOf(widget);
 }
 
 /** Stops the painting of a widget for a while, which a host may have stopped itself. */
@@ -155,6 +168,11 @@ bool CollapsibleGroupBoxBasic::isCollapsed() const
 
 void CollapsibleGroupBoxBasic::setCollapsed(bool collapse)
 {
+    changeState(collapse, true);
+}
+
+void CollapsibleGroupBoxBasic::changeState(bool collapse, bool mayScroll)
+{
     const bool wasCollapsed = m_collapsed;
     m_collapsed = collapse;
     if (!isVisible()) {
@@ -163,6 +181,9 @@ void CollapsibleGroupBoxBasic::setCollapsed(bool collapse)
     // Hiding children and processing events may delete the box or change its state again.
     const QPointer<CollapsibleGroupBoxBasic> guard(this);
     applyState(collapse);
+    if (guard && mayScroll && m_collapsed == collapse && scrollsWhenOpen()) {
+        scrollIntoView({guard});
+    }
     if (guard && wasCollapsed != collapse && m_collapsed == collapse) {
         Q_EMIT collapsedStateChanged(collapse);
     }
@@ -170,6 +191,7 @@ void CollapsibleGroupBoxBasic::setCollapsed(bool collapse)
 
 void CollapsibleGroupBoxBasic::applyState(bool collapse)
 {
+    const LayoutPause pause(parentWidget());
     if (!m_initialFlat) {
         setFlat(collapse);
     }
@@ -182,29 +204,35 @@ void CollapsibleGroupBoxBasic::applyState(bool collapse)
     if (m_collapseButton) {
         m_collapseButton->setIcon(collapse ? m_expandIcon : m_collapseIcon);
     }
-    if (!collapse && m_shown && m_scrollOnExpand && m_parentScrollArea) {
-        scrollIntoView();
-    }
 }
 
-void CollapsibleGroupBoxBasic::scrollIntoView()
+/** Whether the box is open, was shown before, and shall and can be scrolled into view. */
+bool CollapsibleGroupBoxBasic::scrollsWhenOpen() const
 {
-    const QPointer<CollapsibleGroupBoxBasic> guard(this);
-    // The layouts around the box learn of its new height by events.
+    return !m_collapsed && m_shown && m_scrollOnExpand && m_parentScrollArea;
+}
+
+/** Scrolls to one box after the other. Host code runs in between, in events and at scroll bars. */
+void CollapsibleGroupBoxBasic::scrollIntoView(
+    const QVector<QPointer<CollapsibleGroupBoxBasic>> &boxes)
+{
+    // The layouts around the boxes learn of their new heights by events.
     QCoreApplication::processEvents();
-    // A host may have taken the panel out of its scroll area, or the box out of the panel.
-    if (!guard || !m_parentScrollArea || !m_parentScrollArea->widget() ||
-        !m_parentScrollArea->widget()->isAncestorOf(this)) {
-        return;
-    }
-    const QPointer<QScrollArea> area = m_parentScrollArea;
-    const UpdateBlocker blocker(area);
-    area->ensureWidgetVisible(this, ScrollMargin, ScrollMargin);
-    // The title stays in view when the box is higher than the viewport. Scrolling tells the host's
-    // listeners, which may do anything.
-    if (guard && m_collapseButton && area && area->widget() &&
-        area->widget()->isAncestorOf(m_collapseButton)) {
-        area->ensureWidgetVisible(m_collapseButton, 0, TitleScrollMargin);
+    std::map<QScrollArea *, std::unique_ptr<UpdateBlocker>> blockers;
+    for (const QPointer<CollapsibleGroupBoxBasic> &box : boxes) {
+        const QPointer<QScrollArea> area = box ? box->m_parentScrollArea : nullptr;
+        if (!area || !isIn(area, box)) {
+            continue;
+        }
+        auto &blocker = blockers[area];
+        if (!blocker) {
+            blocker = std::make_unique<UpdateBlocker>(area);
+        }
+        area->ensureWidgetVisible(box, ScrollMargin, ScrollMargin);
+        // The title stays in view when the box is higher than the viewport.
+        if (box && area && isIn(area, box->m_collapseButton)) {
+            area->ensureWidgetVisible(box->m_collapseButton, 0, TitleScrollMargin);
+        }
     }
 }
 
@@ -295,6 +323,7 @@ void CollapsibleGroupBoxBasic::toggleGroup()
 {
     const bool wasCollapsed = m_collapsed;
     const bool isShift = m_shiftDown;
+    const bool opensAll = wasCollapsed && !isShift;
     const QString group = m_syncGroup;
     const QPointer<CollapsibleGroupBoxBasic> clicked(this);
 
@@ -304,10 +333,19 @@ void CollapsibleGroupBoxBasic::toggleGroup()
     for (CollapsibleGroupBoxBasic *box : found) {
         boxes.append(box);
     }
-    for (const QPointer<CollapsibleGroupBoxBasic> &box : boxes) {
-        if (box && box->isEnabled() && box->syncGroup() == group) {
-            box->setCollapsed(isShift ? box != clicked : !wasCollapsed);
+    QVector<QPointer<CollapsibleGroupBoxBasic>> opened;
+    for (const QPointer<CollapsibleGroupBoxBasic> &box : qAsConst(boxes)) {
+        if (!box || !box->isEnabled() || box->syncGroup() != group) {
+            continue;
         }
+        box->changeState(isShift ? box != clicked : !wasCollapsed, !opensAll);
+        if (box && opensAll && box->isVisible() && box->scrollsWhenOpen()) {
+            opened.append(box);
+        }
+    }
+    // Laying out a long panel for each of its boxes takes the square of the time of doing it once.
+    if (!opened.isEmpty()) {
+        scrollIntoView(opened);
     }
 }
 

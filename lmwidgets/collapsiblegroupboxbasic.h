@@ -7,6 +7,7 @@
 #include <QIcon>
 #include <QPointer>
 #include <QString>
+#include <QVector>
 
 QT_BEGIN_NAMESPACE
 class QScrollArea;
@@ -152,8 +153,10 @@ private:
     void noteFlatness();
     QScrollArea *findScrollArea() const;
     void showFirst();
+    void changeState(bool collapse, bool mayScroll);
     void applyState(bool collapse);
-    void scrollIntoView();
+    bool scrollsWhenOpen() const;
+    static void scrollIntoView(const QVector<QPointer<CollapsibleGroupBoxBasic>> &boxes);
     void toggleAlone();
     void findSyncParent();
     void toggleGroup();

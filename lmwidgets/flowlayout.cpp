@@ -19,11 +19,15 @@ int commonMargin(const QMargins &margins)
     return isCommon ? margins.left() : -1;
 }
 
-/** A coordinate as Qt counts it: enough large items add up to more than an int holds. */
-int toPixels(qint64 length)
+/**
+ * A coordinate as Qt counts it, with room for @p extent px behind it: enough large items add up to
+ * more than an int holds.
+ */
+int toPixels(qint64 position, int extent = 0)
 {
     return static_cast<int>(
-        qBound<qint64>(std::numeric_limits<int>::min(), length, std::numeric_limits<int>::max()));
+        qBound<qint64>(std::numeric_limits<int>::min(), position,
+                       qint64(std::numeric_limits<int>::max()) - qMax(extent, 0)));
 }
 
 } // namespace
@@ -174,7 +178,8 @@ int FlowLayout::doLayout(const QRect &rect, bool testOnly) const
             lineHeight = 0;
         }
         if (!testOnly) {
-            item->setGeometry(QRect(QPoint(toPixels(x), toPixels(y)), hint));
+            item->setGeometry(
+                QRect(QPoint(toPixels(x, hint.width()), toPixels(y, hint.height())), hint));
         }
         x = nextX;
         lineHeight = qMax<qint64>(lineHeight, hint.height());

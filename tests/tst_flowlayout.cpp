@@ -543,11 +543,11 @@ void tst_FlowLayout::enormousItems()
 {
     constexpr int most = std::numeric_limits<int>::max();
     FlowLayout layout(0, most, most);
-    addItems(&layout, QVector<QSize>(5, QSize(most, most)));
+    addItems(&layout, QVector<QSize>(5, QSize(most / 2, most / 2)));
     QCOMPARE(layout.heightForWidth(100), most);
     layout.setGeometry(QRect(0, 0, 100, 100));
     QCOMPARE(layout.itemAt(0)->geometry().topLeft(), QPoint(0, 0));
-    QCOMPARE(layout.itemAt(4)->geometry().topLeft(), QPoint(0, most));
+    QCOMPARE(layout.itemAt(4)->geometry().topLeft(), QPoint(0, most - most / 2));
 }
 
 void tst_FlowLayout::ownership()
