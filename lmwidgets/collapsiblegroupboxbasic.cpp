@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QEvent>
 #include <QLatin1String>
+#include <QLayout>
 #include <QMouseEvent>
 #include <QPixmap>
 #include <QScrollArea>
@@ -89,6 +90,13 @@ QString buttonStyle(const QString &name)
 bool isIn(const QScrollArea *area, const QWidget *widget)
 {
     return widget && area->widget() && area->widget()->isAncestorOf(widget);
+}
+
+void activateLayout(const QWidget *widget)
+{
+    if (widget && widget->layout()) {
+        widget->layout()->activate();
+    }
 }
 
 /** Stops the painting of a widget for a while, which a host may have stopped itself. */
@@ -216,7 +224,13 @@ bool CollapsibleGroupBoxBasic::scrollsWhenOpen() const
 void CollapsibleGroupBoxBasic::scrollIntoView(
     const QVector<QPointer<CollapsibleGroupBoxBasic>> &boxes)
 {
-    // The layouts around the boxes learn of their new heights by events.
+    // One round of events is enough for the scroll area when the layouts within it are up to date.
+    for (const QPointer<CollapsibleGroupBoxBasic> &box : boxes) {
+        activateLayout(box);
+    }
+    for (const QPointer<CollapsibleGroupBoxBasic> &box : boxes) {
+        activateLayout(box ? box->parentWidget() : nullptr);
+    }
     QCoreApplication::processEvents();
     std::map<QScrollArea *, std::unique_ptr<UpdateBlocker>> blockers;
     for (const QPointer<CollapsibleGroupBoxBasic> &box : boxes) {

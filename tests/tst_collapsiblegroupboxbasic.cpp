@@ -276,6 +276,8 @@ private Q_SLOTS:
 
     void scrollsIntoView();
     void scrollsToTheTitleOfAHighBox();
+    void openedGroupScrollsLikeItsBoxes_data();
+    void openedGroupScrollsLikeItsBoxes();
     void doesNotScroll();
     void scrollAreaUpdates();
 
@@ -283,6 +285,9 @@ private Q_SLOTS:
     void deletedByListeners();
     void deletedWhileHidingChildren();
     void changedWhileHidingChildren();
+    void siblingDeletedWhileShowingChildren_data();
+    void siblingDeletedWhileShowingChildren();
+    void resizedWhileShowingChildren();
     void deletedByAListenerOfTheScrollBar();
     void areaDestroyedWhileOpening();
     void panelTakenOutOfItsArea();
@@ -1255,6 +1260,44 @@ void tst_CollapsibleGroupBoxBasic::scrollsToTheTitleOfAHighBox()
     QVERIFY(arrow.y() + 16 <= panel.area->viewport()->height());
 }
 
+void tst_CollapsibleGroupBoxBasic::openedGroupScrollsLikeItsBoxes_data()
+{
+    QTest::addColumn<int>("labels");
+    QTest::addColumn<int>("height");
+    QTest::addColumn<int>("grouped");
+    QTest::newRow("all, low boxes") << 2 << 250 << 6;
+    QTest::newRow("all, high boxes") << 20 << 250 << 6;
+    QTest::newRow("some, low boxes") << 2 << 220 << 4;
+    QTest::newRow("some, high boxes") << 20 << 300 << 4;
+    QTest::newRow("one") << 4 << 250 << 1;
+}
+
+void tst_CollapsibleGroupBoxBasic::openedGroupScrollsLikeItsBoxes()
+{
+    // The panel ends where opening one box after the other takes it.
+    QFETCH(int, labels);
+    QFETCH(int, height);
+    QFETCH(int, grouped);
+    Panel atOnce(6, labels);
+    Panel oneByOne(6, labels);
+    for (Panel *panel : {&atOnce, &oneByOne}) {
+        for (int i = 0; i < 6; ++i) {
+            panel->boxes[i]->setCollapsed(true);
+            panel->boxes[i]->setSyncGroup(i < grouped ? Group : QString());
+        }
+        panel->area->resize(300, height);
+        panel->show();
+    }
+    clickTitle(atOnce.boxes[0], Qt::ControlModifier);
+    for (int i = 0; i < grouped; ++i) {
+        oneByOne.boxes[i]->setCollapsed(false);
+    }
+    QCOMPARE(atOnce.folded(), oneByOne.folded());
+    QCOMPARE(atOnce.scrolled(), oneByOne.scrolled());
+    QCOMPARE(atOnce.content->height(), oneByOne.content->height());
+    QVERIFY(atOnce.area->updatesEnabled());
+}
+
 void tst_CollapsibleGroupBoxBasic::doesNotScroll()
 {
     Panel panel(6, 10);
@@ -1415,6 +1458,59 @@ void tst_CollapsibleGroupBoxBasic::changedWhileHidingChildren()
     QVERIFY(!box->styleSheet().contains(Marker));
     // The last word is the true one.
     QVERIFY(record.lines.isEmpty() || record.lines.endsWith(QLatin1Char('+')));
+}
+
+void tst_CollapsibleGroupBoxBasic::siblingDeletedWhileShowingChildren_data()
+{
+    QTest::addColumn<int>("event");
+    QTest::newRow("hide") << int(QEvent::Hide);
+    QTest::newRow("show") << int(QEvent::Show);
+    QTest::newRow("mark") << int(QEvent::DynamicPropertyChange);
+}
+
+void tst_CollapsibleGroupBoxBasic::siblingDeletedWhileShowingChildren()
+{
+    QFETCH(int, event);
+    Panel panel(4);
+    panel.show();
+    Box *box = panel.boxes[1];
+    const auto labels = box->findChildren<QLabel *>();
+    EventWatcher watcher(labels.at(0), QEvent::Type(event), [&] {
+        delete panel.boxes[0];
+        delete panel.boxes[2];
+        delete labels.at(2);
+    });
+    box->setCollapsed(true);
+    box->setCollapsed(false);
+    // Nothing is left of them in the layouts, and those go on working.
+    QCOMPARE(panel.content->layout()->count(), 3);
+    QCOMPARE(box->layout()->count(), 2);
+    QVERIFY(panel.content->layout()->isEnabled());
+    QCOMPARE(box->y(), panel.content->layout()->contentsMargins().top());
+    box->setCollapsed(true);
+    QTRY_COMPARE(box->height(), box->maximumHeight());
+    panel.boxes = {box, panel.boxes[3]};
+}
+
+void tst_CollapsibleGroupBoxBasic::resizedWhileShowingChildren()
+{
+    QWidget window;
+    auto *layout = new QVBoxLayout(&window);
+    Box *box = makeBox(QStringLiteral("a"));
+    layout->addWidget(box);
+    window.resize(300, 200);
+    window.show();
+    box->setCollapsed(true);
+    EventWatcher watcher(box->findChild<QLabel *>(), QEvent::Show,
+                         [&] { window.resize(500, 200); });
+    box->setCollapsed(false);
+    const QMargins margins = layout->contentsMargins();
+    QTRY_COMPARE(box->width(), 500 - margins.left() - margins.right());
+
+    // A layout that the host has switched off stays off.
+    layout->setEnabled(false);
+    box->setCollapsed(true);
+    QVERIFY(!layout->isEnabled());
 }
 
 void tst_CollapsibleGroupBoxBasic::deletedByAListenerOfTheScrollBar()
