@@ -7,5 +7,7 @@
 LMGALLERY_PAGE(theme)
 LMGALLERY_PAGE(frame)
 LMGALLERY_PAGE(messagebox)
+LMGALLERY_PAGE(containers)
+LMGALLERY_PAGE(flow)
 
 #undef LMGALLERY_PAGE
