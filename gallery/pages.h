@@ -7,6 +7,9 @@
 LMGALLERY_PAGE(theme)
 LMGALLERY_PAGE(frame)
 LMGALLERY_PAGE(messagebox)
+LMGALLERY_PAGE(linetypes)
+LMGALLERY_PAGE(delegates)
+LMGALLERY_PAGE(layers)
 LMGALLERY_PAGE(containers)
 LMGALLERY_PAGE(flow)
 

@@ -112,6 +112,14 @@ void FramelessDialogPrivate::putButtonsLastInTabOrder()
         return;
     }
     tabOrderSettled = true;
+    if (!okButton || !cancelButton || !applyButton || !bottomWidget) {
+        return;
+    }
+    if (okButton->isHidden() && cancelButton->isHidden() && applyButton->isHidden()) {
+        // A message box has buttons of its own in this row. Moving the hidden ones behind the
+        // content would give the keyboard to its leftmost button in place of the one that accepts.
+        return;
+    }
     if (okButton->nextInFocusChain() != cancelButton ||
         cancelButton->nextInFocusChain() != applyButton) {
         return;
@@ -210,7 +218,14 @@ void FramelessDialog::SetContentHolder(QWidget *widget)
 
 void FramelessDialog::setLayout(QLayout *layout)
 {
-    if (!layout || layout->parent()) {
+    if (!layout || layout == d->mainLayout) {
+        return;
+    }
+    // A layout that was constructed with the dialog as its parent is meant for it, yet stands
+    // nowhere: the frame's own layout is in its place. All others with a parent are in use.
+    if (layout->parent() == this) {
+        layout->setParent(nullptr);
+    } else if (layout->parent()) {
         return;
     }
     // Inside another layout a layout has no margins but those that were set on it.
@@ -265,27 +280,37 @@ QPushButton *FramelessDialog::GetApplyButton()
 
 void FramelessDialog::setOKButtonVisible(bool visible)
 {
-    d->okButton->setVisible(visible);
+    if (d->okButton) {
+        d->okButton->setVisible(visible);
+    }
 }
 
 void FramelessDialog::setCancelButtonVisible(bool visible)
 {
-    d->cancelButton->setVisible(visible);
+    if (d->cancelButton) {
+        d->cancelButton->setVisible(visible);
+    }
 }
 
 void FramelessDialog::setApplyButtonVisible(bool visible)
 {
-    d->applyButton->setVisible(visible);
+    if (d->applyButton) {
+        d->applyButton->setVisible(visible);
+    }
 }
 
 void FramelessDialog::setOKButtonDefault(bool isDefault)
 {
-    d->okButton->setDefault(isDefault);
+    if (d->okButton) {
+        d->okButton->setDefault(isDefault);
+    }
 }
 
 void FramelessDialog::setCloseButtonVisible(bool visible)
 {
-    d->titleBar->setTitleButtonVisible(TitleBar::CloseButton, visible);
+    if (d->titleBar) {
+        d->titleBar->setTitleButtonVisible(TitleBar::CloseButton, visible);
+    }
 }
 
 bool FramelessDialog::getCloseButtonVisible() const
@@ -295,85 +320,106 @@ bool FramelessDialog::getCloseButtonVisible() const
 
 void FramelessDialog::setMinButtonVisible(bool visible)
 {
-    d->titleBar->setTitleButtonVisible(TitleBar::MinButton, visible);
+    if (d->titleBar) {
+        d->titleBar->setTitleButtonVisible(TitleBar::MinButton, visible);
+    }
 }
 
 void FramelessDialog::setMaxButtonVisible(bool visible)
 {
-    d->titleBar->setTitleButtonVisible(TitleBar::MaxButton, visible);
-    d->titleBar->setTitleButtonVisible(TitleBar::RestoreButton, visible);
-    if (visible) {
-        d->titleBar->setMaximized(isMaximized());
-    } else {
+    if (d->titleBar) {
+        d->titleBar->setTitleButtonVisible(TitleBar::MaxButton, visible);
+        d->titleBar->setTitleButtonVisible(TitleBar::RestoreButton, visible);
+        if (visible) {
+            d->titleBar->setMaximized(isMaximized());
+        }
+    }
+    if (!visible) {
         d->helper->setWidgetResizable(false);
     }
 }
 
 void FramelessDialog::hideTitleIcon()
 {
-    d->titleBar->setTitleButtonVisible(TitleBar::LogoButton, false);
+    if (d->titleBar) {
+        d->titleBar->setTitleButtonVisible(TitleBar::LogoButton, false);
+    }
 }
 
 void FramelessDialog::setWindowIcon(const QIcon &icon)
 {
-    d->titleBar->setTitleButtonIcon(TitleBar::LogoButton, icon);
+    if (d->titleBar) {
+        d->titleBar->setTitleButtonIcon(TitleBar::LogoButton, icon);
+    }
     QWidget::setWindowIcon(icon);
 }
 
 QIcon FramelessDialog::windowIcon()
 {
-    return d->titleBar->titleButtonIcon(TitleBar::LogoButton);
+    return d->titleBar ? d->titleBar->titleButtonIcon(TitleBar::LogoButton) : QIcon();
 }
 
 void FramelessDialog::setWindowTitle(const QString &title)
 {
-    d->titleBar->setTitle(title);
-    d->titleBar->setStyleSheet(QLatin1String(TitleBarStyle));
+    if (d->titleBar) {
+        d->titleBar->setTitle(title);
+        d->titleBar->setStyleSheet(QLatin1String(TitleBarStyle));
+    }
 }
 
 QString FramelessDialog::windowTitle()
 {
-    return d->titleBar->title();
+    return d->titleBar ? d->titleBar->title() : QString();
 }
 
 void FramelessDialog::setWindowTitleAlignment(Qt::Alignment alignment)
 {
-    d->titleBar->setTitleAlignment(alignment);
+    if (d->titleBar) {
+        d->titleBar->setTitleAlignment(alignment);
+    }
 }
 
 void FramelessDialog::setTitleBarLabelStyleSheet(QString styleSheet)
 {
-    d->titleBar->titleLabel()->setStyleSheet(styleSheet);
+    if (d->titleBar) {
+        d->titleBar->titleLabel()->setStyleSheet(styleSheet);
+    }
 }
 
 void FramelessDialog::setTitleButtonIcon(const int &type, const QIcon &icon)
 {
-    d->titleBar->setTitleButtonIcon(type, icon);
+    if (d->titleBar) {
+        d->titleBar->setTitleButtonIcon(type, icon);
+    }
 }
 
 void FramelessDialog::setTtitleBarButtonSize(const int &type, QSize size)
 {
-    if (QToolButton *button = d->titleBar->titleButton(type)) {
-        button->setFixedSize(size);
+    if (d->titleBar && d->titleBar->titleButton(type)) {
+        d->titleBar->titleButton(type)->setFixedSize(size);
     }
 }
 
 void FramelessDialog::setTtitleBarButtonStyle(const int &type, QString styleSheet)
 {
-    if (QToolButton *button = d->titleBar->titleButton(type)) {
-        button->setStyleSheet(styleSheet);
+    if (d->titleBar && d->titleBar->titleButton(type)) {
+        d->titleBar->titleButton(type)->setStyleSheet(styleSheet);
     }
 }
 
 void FramelessDialog::appendExtendTitleButton(QAction *action, QSize buttonSize, QSize iconSize)
 {
-    d->titleBar->appendExtendTitleButton(action, buttonSize, iconSize);
+    if (d->titleBar) {
+        d->titleBar->appendExtendTitleButton(action, buttonSize, iconSize);
+    }
 }
 
 void FramelessDialog::insertExtendTitleButton(int index, QAction *action, QSize buttonSize,
                                               QSize iconSize)
 {
-    d->titleBar->insertExtendTitleButton(index, action, buttonSize, iconSize);
+    if (d->titleBar) {
+        d->titleBar->insertExtendTitleButton(index, action, buttonSize, iconSize);
+    }
 }
 
 void FramelessDialog::setDialogMovable(bool movable)
@@ -416,10 +462,13 @@ void FramelessDialog::setHorizontalLineHeight(int height)
 
 void FramelessDialog::setMessageboxStyleSheet()
 {
+    if (!d->titleBar) {
+        return;
+    }
     QToolButton *logo = d->titleBar->getButtonByType(TitleBar::LogoButton);
     QLabel *title = d->titleBar->titleLabel();
-    // A message box calls this from within its layout. Each setStyleSheet(), also with the same text,
-    // asks for another layout; without the comparison that would never end.
+    // A message box calls this from within its layout. Each setStyleSheet(), also with the same
+    // text, asks for another layout; without the comparison that would never end.
     if (logo->styleSheet() != QLatin1String(MessageBoxLogoStyle)) {
         logo->setStyleSheet(QLatin1String(MessageBoxLogoStyle));
     }
@@ -430,33 +479,48 @@ void FramelessDialog::setMessageboxStyleSheet()
     d->titleBar->setTitleButtonVisible(TitleBar::LogoButton, true);
 }
 
+// A host that learns of its dialog's state change may delete the dialog, so each of these asks the
+// title bar, the dialog's child, and not the dialog whether it is still there.
+
 void FramelessDialog::show()
 {
+    const QPointer<TitleBar> titleBar = d->titleBar;
     QWidget::show();
-    d->titleBar->setMaximized(isMaximized());
+    if (titleBar) {
+        titleBar->setMaximized(isMaximized());
+    }
 }
 
 void FramelessDialog::showMaximized()
 {
+    const QPointer<TitleBar> titleBar = d->titleBar;
     QWidget::showMaximized();
-    d->titleBar->setMaximized(true);
+    if (titleBar) {
+        titleBar->setMaximized(true);
+    }
 }
 
 void FramelessDialog::showNormal()
 {
+    const QPointer<TitleBar> titleBar = d->titleBar;
     QWidget::showNormal();
-    d->titleBar->setMaximized(false);
+    if (titleBar) {
+        titleBar->setMaximized(false);
+    }
 }
 
 void FramelessDialog::swithMaxNormal()
 {
+    const QPointer<TitleBar> titleBar = d->titleBar;
     const bool wasMaximized = isMaximized();
     if (wasMaximized) {
         QWidget::showNormal();
     } else {
         QWidget::showMaximized();
     }
-    d->titleBar->setMaximized(!wasMaximized);
+    if (titleBar) {
+        titleBar->setMaximized(!wasMaximized);
+    }
 }
 
 void FramelessDialog::drawShadowBorder(QPaintEvent *event)

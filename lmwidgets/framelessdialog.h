@@ -43,8 +43,13 @@ class TitleBar;
  * each show: both minimumSize() and maximumSize() become size(). A dialog that is to be resized by
  * the mouse needs setDialogResizable(true) and, after show(), limits of its own.
  *
+ * The title bar, the buttons, their row and the separators may be deleted by the host: the
+ * functions that return them then return null, and those that set something on them do nothing.
+ *
  * It bypasses the window manager, and therefore activates itself when it is shown and when it is
- * clicked, so that it takes the keyboard on X11 too.
+ * clicked, so that it takes the keyboard on X11 too. There it also fills its screen itself when it
+ * is maximised and takes its former geometry when it is restored; minimised, it goes and comes back
+ * with the window that owns it, and without one it stays where it is.
  */
 class LMWIDGETS_EXPORT FramelessDialog : public TalvoDialogBase
 {
@@ -77,7 +82,8 @@ public:
     /**
      * Places @p layout between the separators, with its own margins, and takes ownership. It hides
      * QWidget::setLayout(), whose place the frame itself takes. Null, or a layout that stands
-     * somewhere already, is ignored. The caller deletes a former layout that it wants replaced.
+     * somewhere already, is ignored; one that was constructed with the dialog as its parent stands
+     * nowhere yet. The caller deletes a former layout that it wants replaced.
      */
     void setLayout(QLayout *layout);
 

@@ -4,14 +4,16 @@
 #include "keyboardactivation_p.h"
 #include "unmanagedwindowstate_p.h"
 
+#include <lmwidgets/titlebar.h>
+
+#include <QFrame>
 #include <QLayout>
 #include <QObject>
 #include <QPointer>
+#include <QPushButton>
 
 QT_BEGIN_NAMESPACE
-class QFrame;
 class QHBoxLayout;
-class QPushButton;
 class QVBoxLayout;
 QT_END_NAMESPACE
 
@@ -20,7 +22,6 @@ namespace Widgets {
 
 class FramelessDialog;
 class FramelessHelper;
-class TitleBar;
 
 class FramelessDialogPrivate : public QObject
 {
@@ -42,21 +43,20 @@ public:
     void putButtonsLastInTabOrder();
 
     FramelessDialog *q;
-    TitleBar *titleBar = nullptr;
+    // Hosts rebuild a dialog by deleting parts of it without telling it; each function then does
+    // what is left to do.
+    QPointer<TitleBar> titleBar;
     QVBoxLayout *mainLayout = nullptr;
     QHBoxLayout *bottomLayout = nullptr;
-    QPushButton *okButton = nullptr;
-    QPushButton *cancelButton = nullptr;
-    QPushButton *applyButton = nullptr;
+    QPointer<QPushButton> okButton;
+    QPointer<QPushButton> cancelButton;
+    QPointer<QPushButton> applyButton;
     QHBoxLayout *titleLayout = nullptr;
-    // Hosts that rebuild the frame's layout delete what they do not need, without telling the
-    // dialog.
     QPointer<QFrame> topSeparator;
     QPointer<QFrame> bottomSeparator;
     int lineHeight = 0;
-    // Subclasses and hosts rebuild their content by deleting these, without telling the dialog.
     QPointer<QWidget> contentHolder;
-    QWidget *bottomWidget = nullptr;
+    QPointer<QWidget> bottomWidget;
     QPointer<QLayout> contentLayout;
     FramelessHelper *helper = nullptr;
     bool tabOrderSettled = false;

@@ -65,6 +65,9 @@ HelperWidgetData::~HelperWidgetData()
 void HelperWidgetData::restoreWidget()
 {
     const QPointer<QWidget> widget = m_widget;
+    if (!widget) {
+        return;
+    }
     widget->setAttribute(Qt::WA_MouseTracking, false);
     widget->setWindowFlags(m_savedWindowFlags);
     if (widget) {
@@ -333,8 +336,15 @@ FramelessHelper::~FramelessHelper()
 
 void FramelessHelper::activateOn(QWidget *widget)
 {
-    if (!widget || d->widgets.contains(widget)) {
+    if (!widget) {
         return;
+    }
+    if (HelperWidgetData *known = d->widgets.value(widget)) {
+        if (known->widget()) {
+            return;
+        }
+        // Left over from a widget that had this address before.
+        delete d->widgets.take(widget);
     }
     auto *data = new HelperWidgetData(d, widget);
     widget->setAttribute(Qt::WA_MouseTracking, true);
@@ -345,7 +355,8 @@ void FramelessHelper::activateOn(QWidget *widget)
 
     // QWidget says that it goes before it deletes its children, so that a helper which is a child
     // of its widget has forgotten it by the time of its own destruction, and no longer tries to
-    // restore it.
+    // restore it. A host that drops all connections of its widget drops this one too; the record
+    // notices then.
     data->destroyedConnection = connect(widget, &QObject::destroyed, this,
                                         [this, widget] { delete d->widgets.take(widget); });
 }
@@ -356,9 +367,11 @@ void FramelessHelper::removeFrom(QWidget *widget)
     if (!data) {
         return;
     }
-    widget->removeEventFilter(this);
     disconnect(data->destroyedConnection);
-    data->restoreWidget();
+    if (data->widget()) {
+        widget->removeEventFilter(this);
+        data->restoreWidget();
+    }
     delete data;
 }
 

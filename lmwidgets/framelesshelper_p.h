@@ -4,14 +4,15 @@
 #include <QHash>
 #include <QObject>
 #include <QPoint>
+#include <QPointer>
 #include <QRect>
+#include <QWidget>
 
 QT_BEGIN_NAMESPACE
 class QEvent;
 class QHoverEvent;
 class QMouseEvent;
 class QRubberBand;
-class QWidget;
 QT_END_NAMESPACE
 
 namespace LM {
@@ -66,7 +67,10 @@ public:
     /** Frees the rubber band; the widget is left as it is. */
     ~HelperWidgetData();
 
-    /** Turns off what the registration turned on. The widget must be alive. */
+    /** Returns the widget; null when it is gone. */
+    QWidget *widget() const { return m_widget; }
+
+    /** Turns off what the registration turned on, if the widget is alive. */
     void restoreWidget();
 
     void updateRubberBand();
@@ -98,7 +102,7 @@ private:
 
     FramelessHelperPrivate *m_owner;
     QRubberBand *m_rubberBand = nullptr;
-    QWidget *m_widget;
+    QPointer<QWidget> m_widget;
     QPoint m_dragOffset;
     CursorRegion m_pressedRegion;
     CursorRegion m_moveRegion;

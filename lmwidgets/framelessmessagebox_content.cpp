@@ -88,6 +88,38 @@ QRect availableGeometryAtCursor()
 
 } // namespace
 
+MessageLabelItem::MessageLabelItem(FramelessMessageBoxPrivate *box)
+    : QWidgetItem(box->label), m_box(box)
+{
+}
+
+QSize MessageLabelItem::sizeHint() const
+{
+    const QSize size = QWidgetItem::sizeHint();
+    return QSize(size.width(), qMax(0, size.height() - overlap()));
+}
+
+QSize MessageLabelItem::minimumSize() const
+{
+    const QSize size = QWidgetItem::minimumSize();
+    return QSize(size.width(), qMax(0, size.height() - overlap()));
+}
+
+int MessageLabelItem::heightForWidth(int width) const
+{
+    return qMax(0, QWidgetItem::heightForWidth(width) - overlap());
+}
+
+void MessageLabelItem::setGeometry(const QRect &rect)
+{
+    QWidgetItem::setGeometry(rect.adjusted(0, 0, 0, overlap()));
+}
+
+int MessageLabelItem::overlap() const
+{
+    return m_box ? m_box->labelOverlap : 0;
+}
+
 void FramelessMessageBoxPrivate::init(const QString &title, const QString &text)
 {
     q->setOKButtonVisible(false);
@@ -162,7 +194,8 @@ void FramelessMessageBoxPrivate::setupLayout()
     column->setSpacing(0);
     row->addLayout(column);
     column->setContentsMargins(0, 0, 0, 0);
-    column->addWidget(label, 1);
+    column->addItem(new MessageLabelItem(this));
+    column->setStretch(0, 1);
     row->addWidget(rightSpacer);
     rightSpacer->show();
     content->addLayout(row);
@@ -203,8 +236,9 @@ void FramelessMessageBoxPrivate::installShadow()
 }
 
 /**
- * The width is fixed, so the height follows from what the label needs in it. The label gets all
- * that the frame leaves; what the frame takes is made to fit by the margins of the button row.
+ * The width is fixed, so the height follows from what the label needs in it. The frame around the
+ * label takes more than the box is higher than the label: the difference is the part of the label
+ * that lies behind the button row, where no text comes.
  */
 void FramelessMessageBoxPrivate::updateSize()
 {
@@ -213,16 +247,18 @@ void FramelessMessageBoxPrivate::updateSize()
     }
     updateInformativeLabel();
     label->setWordWrap(true);
-
-    const int chrome = ChromeHeight + (checkbox ? CheckBoxExtraHeight : 0);
-    fitBottomRow(chrome);
-    const int height = labelHeight(BoxWidth, availableGeometryAtCursor().height() - chrome);
     q->getMainLayout()->activate();
     label->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+
+    const int chrome = ChromeHeight + (checkbox ? CheckBoxExtraHeight : 0);
+    labelOverlap = frameHeight() - chrome;
+    const int height = labelHeight(availableGeometryAtCursor().height() - chrome);
+    label->updateGeometry();
     q->setFixedSize(BoxWidth, height + chrome);
     q->setMessageboxStyleSheet();
 
     q->getMainLayout()->activate();
+    label->lower();
     placeDetails();
     // They come from this rule itself, which must not run for ever.
     QCoreApplication::removePostedEvents(q, QEvent::LayoutRequest);
@@ -237,41 +273,38 @@ void FramelessMessageBoxPrivate::updateInformativeLabel()
     }
 }
 
-/** The height of the label in a box that is @p dialogWidth wide, up to @p available. */
-int FramelessMessageBoxPrivate::labelHeight(int dialogWidth, int available)
+/** The height of everything above and below the content. */
+int FramelessMessageBoxPrivate::frameHeight() const
+{
+    const QVBoxLayout *main = q->getMainLayout();
+    const QMargins margins = main->contentsMargins();
+    int height = margins.top() + margins.bottom();
+    for (int i = 0; i < main->count(); ++i) {
+        QLayoutItem *item = main->itemAt(i);
+        if (item->layout() != q->layout()) {
+            height += item->sizeHint().height();
+        }
+    }
+    return height;
+}
+
+/** The height that the label needs, up to @p available. */
+int FramelessMessageBoxPrivate::labelHeight(int available) const
 {
     const QMargins margins = q->getMainLayout()->contentsMargins();
-    const int width = dialogWidth - margins.left() - margins.right() - 2 * SpacerWidth;
+    const int width = BoxWidth - margins.left() - margins.right() - 2 * SpacerWidth;
     label->ensurePolished();
-    int height = qMax(label->minimumHeight(), label->heightForWidth(width));
+    // A label with a minimum height counts it into what its text needs.
+    label->setMinimumHeight(0);
+    const int textHeight = label->heightForWidth(width);
+    label->setMinimumHeight(LabelMinimumHeight);
+
+    int height = qMax(textHeight + qMax(0, labelOverlap), LabelMinimumHeight);
     if (detailsText && !detailsText->isHidden()) {
         height += DetailsGap + detailsText->sizeHint().height();
     }
     // A box that is higher than the screen would have its buttons out of reach.
-    return qMax(label->minimumHeight(), qMin(height, available));
-}
-
-/** Sets the margins of the button row so that all but the label is @p chromeHeight high. */
-void FramelessMessageBoxPrivate::fitBottomRow(int chromeHeight)
-{
-    QVBoxLayout *main = q->getMainLayout();
-    const QMargins mainMargins = main->contentsMargins();
-    int space = chromeHeight - mainMargins.top() - mainMargins.bottom();
-    for (int i = 0; i < main->count(); ++i) {
-        const QLayoutItem *item = main->itemAt(i);
-        if (main->itemAt(i)->layout() != q->layout() &&
-            main->itemAt(i)->widget() != q->bottomWidget()) {
-            space -= item->sizeHint().height();
-        }
-    }
-
-    QHBoxLayout *row = q->bottomLayout();
-    QMargins margins = row->contentsMargins();
-    const int needed = row->sizeHint().height() - margins.top() - margins.bottom();
-    const int rest = qMax(0, space - needed);
-    margins.setTop(rest / 2);
-    margins.setBottom(rest - rest / 2);
-    row->setContentsMargins(margins);
+    return qMax(LabelMinimumHeight, qMin(height, available));
 }
 
 /** The details stand in no layout; they cover the lower part of the label, which is made for them.
@@ -281,9 +314,9 @@ void FramelessMessageBoxPrivate::placeDetails()
     if (!detailsText) {
         return;
     }
-    QRect place = label->geometry();
-    place.setTop(place.bottom() + 1 - detailsText->sizeHint().height());
-    detailsText->setGeometry(place);
+    const int height = detailsText->sizeHint().height();
+    const QRect place = label->geometry().adjusted(0, 0, 0, -labelOverlap);
+    detailsText->setGeometry(place.x(), place.bottom() + 1 - height, place.width(), height);
     detailsText->raise();
 }
 

@@ -9,6 +9,7 @@
 #include <QCheckBox>
 #include <QHash>
 #include <QLabel>
+#include <QLayoutItem>
 #include <QList>
 #include <QMessageBox>
 #include <QObject>
@@ -63,8 +64,8 @@ public:
     void installShadow();
     void updateSize();
     void updateInformativeLabel();
-    int labelHeight(int dialogWidth, int available);
-    void fitBottomRow(int chromeHeight);
+    int frameHeight() const;
+    int labelHeight(int available) const;
     void placeDetails();
 
     QPixmap standardIcon(QMessageBox::Icon icon) const;
@@ -116,6 +117,25 @@ public:
     QByteArray memberToDisconnectOnClose;
     QByteArray signalToDisconnectOnClose;
     QPointer<QGraphicsEffect> shadow;
+    // How much of the label lies behind the button row, in px.
+    int labelOverlap = 0;
+};
+
+/** The label's place in the layout, which the label exceeds at its lower end by the overlap. */
+class MessageLabelItem : public QWidgetItem
+{
+public:
+    explicit MessageLabelItem(FramelessMessageBoxPrivate *box);
+
+    QSize sizeHint() const override;
+    QSize minimumSize() const override;
+    int heightForWidth(int width) const override;
+    void setGeometry(const QRect &rect) override;
+
+private:
+    int overlap() const;
+
+    QPointer<FramelessMessageBoxPrivate> m_box;
 };
 
 } // namespace Widgets

@@ -24,8 +24,8 @@ namespace Widgets {
  * #585858; }`.
  *
  * @code
- * layout->addWidget(LM::Widgets::FrameLine::createHorizontalLine("isBackgroundSeparator", this, 1,
- * 0, 0));
+ * QFrame *line = LM::Widgets::FrameLine::createHorizontalLine("isBackgroundSeparator", this, 1, 0, 0);
+ * layout->addWidget(line);
  * @endcode
  */
 class LMWIDGETS_EXPORT FrameLine

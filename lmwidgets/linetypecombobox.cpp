@@ -31,6 +31,7 @@ constexpr int dotOffset = 1; // from the position in the pattern to the dot, in 
 constexpr int dotAdvance = 3;
 constexpr int dotExtent = 3; // the dot with the stroke around it
 constexpr int cachedBytes = 8 * 1024 * 1024;
+constexpr int itemBytes = 1024;    // about what an item takes beside its picture
 constexpr int emptyBoxLetters = 7; // the room that QComboBox keeps while it has no items
 
 QString continuousPattern()
@@ -313,9 +314,11 @@ void LineTypeComboBox::updateIcons()
 QSize LineTypeComboBox::appendItem(const QString &name, const QString &pattern, int width)
 {
     const ItemKey key = {name, pattern, width};
-    if (const Item *item = cachedItems().object(key)) {
-        append(this, item->prototype);
-        return item->pictureSize;
+    if (const Item *cached = cachedItems().object(key)) {
+        // A slot that is called on the way may let the cached item go.
+        const QSize pictureSize = cached->pictureSize;
+        append(this, cached->prototype);
+        return pictureSize;
     }
     const QPixmap picture = generateLinePixmap(pattern, width);
     QIcon icon;
@@ -329,7 +332,8 @@ QSize LineTypeComboBox::appendItem(const QString &name, const QString &pattern, 
     item->prototype.setData(name, Qt::UserRole);
     append(this, item->prototype);
 
-    const qint64 bytes = qint64(picture.width()) * picture.height() * qint64(sizeof(QRgb));
+    const qint64 bytes =
+        itemBytes + qint64(picture.width()) * picture.height() * qint64(sizeof(QRgb));
     cachedItems().insert(key, item.release(), static_cast<int>(qMin<qint64>(bytes, INT_MAX)));
     return picture.size();
 }

@@ -9,6 +9,8 @@
 #include <lmwidgets/collapsiblegroupbox.h>
 #include <lmwidgets/collapsiblegroupboxbasic.h>
 #include <lmwidgets/customdelegate.h>
+#include <lmwidgets/customlayertablewidget.h>
+#include <lmwidgets/customlayertoolbutton.h>
 #include <lmwidgets/detailbutton.h>
 #include <lmwidgets/flowlayout.h>
 #include <lmwidgets/framelessdialog.h>

@@ -4,6 +4,7 @@
 
 #include <QHash>
 #include <QPointer>
+#include <QSignalBlocker>
 
 namespace LM {
 namespace Widgets {
@@ -37,6 +38,29 @@ TalvoDialogBase::~TalvoDialogBase()
     // still run host code that switches the theme.
     if (TalvoStyleManager *manager = existingStyleManager()) {
         manager->disconnect(this);
+    }
+}
+
+void TalvoDialogBase::done(int result)
+{
+    // QDialog emits two signals one after the other without asking whether it is still alive. Its
+    // own done() runs with signals off here, after the hiding, in which a subclass may emit some.
+    const QPointer<TalvoDialogBase> guard(this);
+    hide();
+    if (!guard) {
+        return;
+    }
+    {
+        const QSignalBlocker blocker(this);
+        QDialog::done(result);
+    }
+    if (result == Accepted) {
+        Q_EMIT accepted();
+    } else if (result == Rejected) {
+        Q_EMIT rejected();
+    }
+    if (guard) {
+        Q_EMIT finished(result);
     }
 }
 

@@ -50,6 +50,12 @@ public:
      */
     virtual void initStyleSheet() = 0;
 
+    /**
+     * Hides the dialog and sets its result as QDialog does, with one addition: whoever receives
+     * accepted() or rejected() may destroy the dialog, which then emits finished() no more.
+     */
+    void done(int result) override;
+
 public Q_SLOTS:
     /** Calls initStyleSheet(). The style manager's themeStyleShift() is connected to it. */
     void onInitStyleSheet();

@@ -8,6 +8,7 @@
 #include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QMouseEvent>
 #include <QPixmap>
 #include <QPointer>
 #include <QToolButton>
@@ -34,6 +35,30 @@ const char WindowButtonStyle[] =
     "QToolButton:hover{background-color:#333333;}\n"
     "QToolButton:pressed{background-color:#333333;padding:0px 0px 0px 0px;}";
 
+/**
+ * A tool button whose click may destroy it. Up to Qt 5.15 QToolButton writes to itself after the
+ * release of the mouse has been turned into a click, and the click of a title button closes
+ * windows.
+ */
+class TitleButton : public QToolButton
+{
+public:
+    using QToolButton::QToolButton;
+
+protected:
+    void mouseReleaseEvent(QMouseEvent *event) override
+    {
+        const QPointer<QToolButton> guard(this);
+        QAbstractButton::mouseReleaseEvent(event);
+        if (guard) {
+            // The click is over, so this one only forgets the press; it would ignore the event.
+            const bool accepted = event->isAccepted();
+            QToolButton::mouseReleaseEvent(event);
+            event->setAccepted(accepted);
+        }
+    }
+};
+
 QString themeImage(const char *name)
 {
     return TalvoStyleManager::instance()->currentThemePath() + QLatin1String("qssimage/") +
@@ -58,7 +83,7 @@ TitleBarPrivate::TitleBarPrivate(TitleBar *titleBar)
 void TitleBarPrivate::createButtons(TitleBar *titleBar)
 {
     for (int type = 0; type < ButtonCount; ++type) {
-        auto *button = new QToolButton(titleBar);
+        auto *button = new TitleButton(titleBar);
         button->setIconSize(ButtonIconSize);
         button->setAutoRaise(true);
         button->setAutoFillBackground(true);
@@ -244,7 +269,7 @@ QToolButton *TitleBar::insertExtendTitleButton(int index, QAction *action, QSize
     if (!action) {
         return nullptr;
     }
-    auto *button = new QToolButton(this);
+    auto *button = new TitleButton(this);
     button->setIcon(action->icon());
     button->setIconSize(iconSize);
     button->setFixedSize(buttonSize);

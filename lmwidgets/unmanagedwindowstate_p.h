@@ -5,6 +5,7 @@
 #include <QPointer>
 #include <QRect>
 #include <QSize>
+#include <QVector>
 
 QT_BEGIN_NAMESPACE
 class QWidget;
@@ -36,9 +37,9 @@ protected:
 
 private:
     bool isUnmanaged() const;
-    QWidget *managedOwner() const;
     void followDialog(QEvent *event);
     void adoptState();
+    void endDrag();
     void fillScreen();
     void restoreGeometry();
     void minimizeWithOwner();
@@ -46,7 +47,10 @@ private:
 
     QWidget *m_dialog;
     QPointer<QWidget> m_owner;
+    QVector<QPointer<QWidget>> m_minimized;
     bool m_fillsScreen = false;
+    bool m_fillingScreen = false;
+    bool m_pressedMaximized = false;
     QRect m_normalGeometry;
     QSize m_normalMinimum;
     QSize m_normalMaximum;

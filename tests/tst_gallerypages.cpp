@@ -7,11 +7,13 @@
 #include "signallog.h"
 #include "themes.h"
 
+#include <lmwidgets/customlayertablewidget.h>
 #include <lmwidgets/framelessdialog.h>
 #include <lmwidgets/talvostylemanager.h>
 #include <lmwidgets/titlebar.h>
 
 #include <QImage>
+#include <QLabel>
 #include <QPointer>
 #include <QPushButton>
 #include <QRegularExpression>
@@ -58,6 +60,7 @@ class tst_GalleryPages : public lmtest::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
+    void layerHostKeepsItsLayers();
     void init() { TalvoStyleManager::instance()->shiftStyle(TalvoStyleManager::Black); }
 
     void themeSwitchTakesEffectAtOnce();
@@ -299,6 +302,65 @@ void tst_GalleryPages::messageBoxSignalsReachTheLog()
     QVERIFY2(
         !lines.filter(QRegularExpression(QStringLiteral("buttonClicked .*\"Feet\""))).isEmpty(),
         qPrintable(lines.join(QLatin1Char('\n'))));
+}
+
+void tst_GalleryPages::layerHostKeepsItsLayers()
+{
+    using Table = LM::Widgets::CustomLayerTableWidget;
+    SignalLog log;
+    const gallery::Page *page = gallery::findPage(QStringLiteral("layers"));
+    QVERIFY(page);
+    const QScopedPointer<QWidget> view(page->createView(log));
+    view->show();
+    QVERIFY(QTest::qWaitForWindowExposed(view.data()));
+    Table *list = nullptr;
+    Table *panel = nullptr;
+    for (Table *table : view->findChildren<Table *>()) {
+        if (table->columnCount() == 6) {
+            list = table;
+        } else if (table->rowCount() == 3) {
+            panel = table;
+        }
+    }
+    QVERIFY(list && panel);
+    const auto click = [list](int row, int column) {
+        QTest::mouseClick(list->cellWidget(row, column), Qt::LeftButton);
+    };
+    auto *name = qobject_cast<QLabel *>(panel->cellWidget(0, 1));
+    QVERIFY(name);
+    QCOMPARE(list->rowCount(), 5);
+
+    // The first layer is locked and stays; unlocked, it goes, and the others keep their places.
+    QTRY_COMPARE(name->text(), list->item(0, 0)->text());
+    click(0, 1);
+    QCOMPARE(list->rowCount(), 5);
+    const QString second = list->item(1, 0)->text();
+    click(0, 3);
+    click(0, 1);
+    QCOMPARE(list->rowCount(), 4);
+    QCOMPARE(list->item(0, 0)->text(), second);
+    QCOMPARE(name->text(), second);
+    click(0, 1);
+    QCOMPARE(list->rowCount(), 3);
+
+    list->item(0, 0)->setText(QStringLiteral("Streets"));
+    QCOMPARE(name->text(), QStringLiteral("Streets"));
+    QAbstractButton *add = findButton(view.data(), QStringLiteral("Add a layer"));
+    QVERIFY(add);
+    QTest::mouseClick(add, Qt::LeftButton);
+    QCOMPARE(list->rowCount(), 4);
+    click(3, 2);
+    QCOMPARE(list->currentRow(), 3);
+    QCOMPARE(name->text(), list->item(3, 0)->text());
+
+    int updates = 0;
+    int removals = 0;
+    for (int i = 0; i < log.count(); ++i) {
+        updates += log.line(i).at(1) == QLatin1String("signalUpdateModel");
+        removals += log.line(i).at(1) == QLatin1String("signalRemoveSelectRow");
+    }
+    QCOMPARE(updates, 5);
+    QCOMPARE(removals, 2);
 }
 
 int main(int argc, char **argv)

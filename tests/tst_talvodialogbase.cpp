@@ -83,6 +83,12 @@ private Q_SLOTS:
     void switchDuringDestruction();
     void switchByADerivedMember();
     void heapOfDialogs();
+    void doneEmitsWhatQDialogDoes_data();
+    void doneEmitsWhatQDialogDoes();
+    void doneWithBlockedSignals();
+    void destroyedInDone_data();
+    void destroyedInDone();
+    void deleteOnClose();
 };
 
 void tst_TalvoDialogBase::cleanup()
@@ -429,6 +435,98 @@ void tst_TalvoDialogBase::heapOfDialogs()
     for (size_t i = 1; i < Count; i += 2) {
         QCOMPARE(dialogs[i]->calls, 1);
     }
+}
+
+void tst_TalvoDialogBase::doneEmitsWhatQDialogDoes_data()
+{
+    QTest::addColumn<int>("result");
+    QTest::newRow("accepted") << int(QDialog::Accepted);
+    QTest::newRow("rejected") << int(QDialog::Rejected);
+    QTest::newRow("another code") << 5;
+    QTest::newRow("negative") << -1;
+}
+
+void tst_TalvoDialogBase::doneEmitsWhatQDialogDoes()
+{
+    QFETCH(int, result);
+    const auto record = [this, result](QDialog &dialog) {
+        QStringList events;
+        connect(&dialog, &QDialog::accepted, this, [&] { events << QStringLiteral("accepted"); });
+        connect(&dialog, &QDialog::rejected, this, [&] { events << QStringLiteral("rejected"); });
+        connect(&dialog, &QDialog::finished, this, [&](int code) {
+            events << QStringLiteral("finished %1 %2 %3")
+                          .arg(code)
+                          .arg(dialog.result())
+                          .arg(dialog.isVisible());
+        });
+        QTimer::singleShot(0, &dialog, [&dialog, result] { dialog.done(result); });
+        events << QString::number(dialog.exec());
+        dialog.show();
+        dialog.close();
+        return events;
+    };
+    QDialog plain;
+    ThemedDialog dialog;
+    QCOMPARE(record(dialog), record(plain));
+    QVERIFY(!dialog.isVisible());
+    QVERIFY(!dialog.signalsBlocked());
+}
+
+void tst_TalvoDialogBase::doneWithBlockedSignals()
+{
+    ThemedDialog dialog;
+    int signalCount = 0;
+    connect(&dialog, &QDialog::finished, this, [&signalCount] { ++signalCount; });
+    dialog.show();
+    dialog.blockSignals(true);
+    dialog.accept();
+    QCOMPARE(signalCount, 0);
+    QVERIFY(dialog.signalsBlocked());
+    QCOMPARE(dialog.result(), int(QDialog::Accepted));
+}
+
+void tst_TalvoDialogBase::destroyedInDone_data()
+{
+    QTest::addColumn<int>("result");
+    QTest::addColumn<bool>("atFinished");
+    QTest::newRow("accepted") << int(QDialog::Accepted) << false;
+    QTest::newRow("rejected") << int(QDialog::Rejected) << false;
+    QTest::newRow("finished") << 2 << true;
+}
+
+void tst_TalvoDialogBase::destroyedInDone()
+{
+    QFETCH(int, result);
+    QFETCH(bool, atFinished);
+    for (const bool modal : {false, true}) {
+        const QPointer<ThemedDialog> dialog = new ThemedDialog;
+        int finished = 0;
+        const auto destroy = [&dialog] { delete dialog.data(); };
+        connect(dialog, &QDialog::finished, this, [&finished] { ++finished; });
+        if (atFinished) {
+            connect(dialog, &QDialog::finished, this, destroy);
+        }
+        connect(dialog, &QDialog::accepted, this, destroy);
+        connect(dialog, &QDialog::rejected, this, destroy);
+        if (modal) {
+            QTimer::singleShot(0, dialog, [&dialog, result] { dialog->done(result); });
+            QCOMPARE(dialog->exec(), int(QDialog::Rejected));
+        } else {
+            dialog->show();
+            dialog->done(result);
+        }
+        QVERIFY(dialog.isNull());
+        QCOMPARE(finished, atFinished ? 1 : 0);
+    }
+}
+
+void tst_TalvoDialogBase::deleteOnClose()
+{
+    const QPointer<ThemedDialog> dialog = new ThemedDialog;
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->show();
+    dialog->accept();
+    QTRY_VERIFY(dialog.isNull());
 }
 
 LMTEST_MAIN(tst_TalvoDialogBase)

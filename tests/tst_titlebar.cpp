@@ -137,6 +137,8 @@ private Q_SLOTS:
     void slotThroughTheMetaObject();
     void deletedWithinEachSignal_data();
     void deletedWithinEachSignal();
+    void deletedByTheMouse();
+    void releaseIsAccepted();
     void noDoubleClick();
     void icons();
     void toolTips();
@@ -580,6 +582,38 @@ void tst_TitleBar::deletedWithinEachSignal()
     connect(bar, &TitleBar::closed, this, destroy);
     bar->titleButton(type)->click();
     QVERIFY(bar.isNull());
+}
+
+void tst_TitleBar::deletedByTheMouse()
+{
+    QAction action(QStringLiteral("a"), nullptr);
+    for (int type = 0; type < 6; ++type) {
+        const QPointer<TitleBar> bar = new TitleBar;
+        QToolButton *extra = bar->appendExtendTitleButton(&action, QSize(20, 20), QSize(16, 16));
+        bar->resize(400, 48);
+        bar->show();
+        QVERIFY(QTest::qWaitForWindowExposed(bar));
+        QToolButton *button = type < 5 ? bar->titleButton(type) : extra;
+        connect(button, &QToolButton::clicked, this, [&bar] { delete bar.data(); });
+        QTest::mouseClick(button, Qt::LeftButton);
+        QVERIFY(bar.isNull());
+    }
+}
+
+void tst_TitleBar::releaseIsAccepted()
+{
+    TitleBar bar;
+    bar.show();
+    QToolButton *button = bar.titleButton(1);
+    QCOMPARE(button->metaObject()->className(), "QToolButton");
+    QMouseEvent press(QEvent::MouseButtonPress, QPointF(5, 5), Qt::LeftButton, Qt::LeftButton, {});
+    QApplication::sendEvent(button, &press);
+    QVERIFY(button->isDown());
+    QMouseEvent release(QEvent::MouseButtonRelease, QPointF(5, 5), Qt::LeftButton, {}, {});
+    release.ignore();
+    QApplication::sendEvent(button, &release);
+    QVERIFY(release.isAccepted());
+    QVERIFY(!button->isDown());
 }
 
 void tst_TitleBar::noDoubleClick()

@@ -14,6 +14,15 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
+/** A process that ends with the test program, even when that is killed. */
+class ChildProcess : public QProcess
+{
+    Q_OBJECT
+
+protected:
+    void setupChildProcess() override;
+};
+
 /** The X server and the window manager. Both end with this object. */
 class Desktop
 {
@@ -41,8 +50,8 @@ private:
 
     QTemporaryDir m_runtimeDir;
     QProcessEnvironment m_environment;
-    QProcess m_server;
-    QProcess m_windowManager;
+    ChildProcess m_server;
+    ChildProcess m_windowManager;
 };
 
 /** One run of desktop_host. Ends with this object. */
@@ -83,7 +92,7 @@ private:
     QRect ask(const QString &question);
     void readLines();
 
-    QProcess m_process;
+    ChildProcess m_process;
     QByteArray m_rest;
     QStringList m_lines;
     QString m_scenario;

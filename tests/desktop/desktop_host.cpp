@@ -3,9 +3,12 @@
  * is named on its command line and tells the driver what happens to them, see Reporter.
  */
 
+#include "containersscenario.h"
+#include "layerscenario.h"
 #include "reporter.h"
 
 #include <lmwidgets/framelessdialog.h>
+#include <lmwidgets/framelessmessagebox.h>
 #include <lmwidgets/titlebar.h>
 
 #include <QApplication>
@@ -15,12 +18,14 @@
 #include <QPushButton>
 #include <QScopedPointer>
 #include <QStyleFactory>
+#include <QTimer>
 #include <QToolButton>
 #include <QVBoxLayout>
 
 #include <functional>
 
 using LM::Widgets::FramelessDialog;
+using LM::Widgets::FramelessMessageBox;
 using LM::Widgets::TitleBar;
 
 namespace {
@@ -166,6 +171,29 @@ void runModal()
     });
 }
 
+/** A dialog whose button runs another dialog above it. */
+void runNested()
+{
+    FramelessDialog *dialog = runWithMain(true);
+    dialog->setModal(true);
+    auto *button = new QPushButton(QStringLiteral("More"));
+    button->setObjectName(QStringLiteral("more"));
+    dialog->bottomLayout()->insertWidget(0, button);
+    QObject::connect(button, &QPushButton::clicked, dialog, [dialog] {
+        FramelessDialog inner(dialog);
+        inner.setObjectName(QStringLiteral("inner"));
+        inner.setMinButtonVisible(true);
+        inner.getTitleBar()
+            ->titleButton(TitleBar::MinButton)
+            ->setObjectName(QStringLiteral("inner-minimize"));
+        auto *layout = new QVBoxLayout;
+        layout->addWidget(makeEdit(QStringLiteral("inner-edit")));
+        inner.setLayout(layout);
+        inner.findChild<QLineEdit *>()->setFocus();
+        Reporter::say(QStringLiteral("exec %1").arg(inner.exec()));
+    });
+}
+
 FramelessDialog *makeDialogWithTitleButtons(QWidget *parent)
 {
     FramelessDialog *dialog = makeDialog(parent);
@@ -181,6 +209,57 @@ void runTitleButtonsWithParent()
     makeDialogWithTitleButtons(main)->show();
 }
 
+/** Runs a box and says which of its buttons was clicked. The buttons are named by their captions.
+ */
+void ask(FramelessMessageBox *box)
+{
+    const QList<QAbstractButton *> buttons = box->buttons();
+    for (QAbstractButton *button : buttons) {
+        button->setObjectName(button->text().remove(QLatin1Char('&')));
+    }
+    box->getTitleBar()->titleButton(TitleBar::CloseButton)->setObjectName(QStringLiteral("close"));
+    box->exec();
+    const QAbstractButton *clicked = box->clickedButton();
+    Reporter::say(QLatin1String("answer ") +
+                  (clicked ? clicked->objectName() : QStringLiteral("nothing")));
+}
+
+void askWithStandardButtons(QWidget *parent)
+{
+    FramelessMessageBox box(QMessageBox::Question, QStringLiteral("Layers"),
+                            QStringLiteral("Remove the layer?"),
+                            QMessageBox::Ok | QMessageBox::Cancel, parent, Qt::Dialog);
+    ask(&box);
+}
+
+/** Asks with buttons of the host's own; the second one answers Escape unless it accepts too. */
+void askWithOwnButtons(QWidget *parent, QMessageBox::ButtonRole secondRole)
+{
+    FramelessMessageBox box(parent);
+    box.setWindowTitle(QStringLiteral("Layers"));
+    box.setText(QStringLiteral("What is to become of the layer?"));
+    box.addButton(QStringLiteral("&Keep"), QMessageBox::AcceptRole);
+    box.addButton(QStringLiteral("&Drop"), secondRole);
+    ask(&box);
+}
+
+void askByStaticFunction(QWidget *parent)
+{
+    const int answer = FramelessMessageBox::question(
+        parent, QStringLiteral("Layers"), QStringLiteral("Remove the layer?"),
+        QMessageBox::Yes | QMessageBox::No, QMessageBox::NoButton);
+    Reporter::say(QStringLiteral("answer %1").arg(answer));
+}
+
+/** A window whose button asks. */
+void runBox(const std::function<void(QWidget *)> &question)
+{
+    QWidget *main = makeMain(QStringLiteral("main"));
+    main->show();
+    QObject::connect(main->findChild<QPushButton *>(), &QPushButton::clicked, main,
+                     [main, question] { question(main); });
+}
+
 QHash<QString, std::function<void()>> scenarios()
 {
     return {
@@ -192,8 +271,19 @@ QHash<QString, std::function<void()>> scenarios()
         {QStringLiteral("modeless"), [] { runWithMain(true); }},
         {QStringLiteral("parentless"), [] { runWithMain(false); }},
         {QStringLiteral("modal"), runModal},
+        {QStringLiteral("nested"), runNested},
         {QStringLiteral("title-buttons"), [] { makeDialogWithTitleButtons(nullptr)->show(); }},
         {QStringLiteral("title-buttons-parent"), runTitleButtonsWithParent},
+        {QStringLiteral("box"), [] { runBox(askWithStandardButtons); }},
+        {QStringLiteral("box-own-buttons"),
+         [] { runBox([](QWidget *w) { askWithOwnButtons(w, QMessageBox::RejectRole); }); }},
+        {QStringLiteral("box-no-escape"),
+         [] { runBox([](QWidget *w) { askWithOwnButtons(w, QMessageBox::AcceptRole); }); }},
+        {QStringLiteral("box-static"), [] { runBox(askByStaticFunction); }},
+        {QStringLiteral("box-alone"),
+         [] { QTimer::singleShot(0, [] { askWithStandardButtons(nullptr); }); }},
+        {QStringLiteral("panel"), runPanel},
+        {QStringLiteral("layers"), runLayers},
         {QStringLiteral("maximized-first"),
          [] { makeDialogWithTitleButtons(nullptr)->showMaximized(); }},
     };

@@ -164,8 +164,8 @@ void Reporter::obey(const QString &order, const QString &name)
         say(QStringLiteral("unknown %1 %2").arg(order, name));
     } else if (order == QLatin1String("activate")) {
         widget->activateWindow();
-    } else if (order == QLatin1String("raise")) {
-        widget->raise();
+    } else if (order == QLatin1String("move")) {
+        widget->move(20, 20);
     } else if (order == QLatin1String("close")) {
         widget->close();
     }

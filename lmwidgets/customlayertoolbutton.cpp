@@ -1,0 +1,132 @@
+#include <lmwidgets/customlayertoolbutton.h>
+
+#include <lmwidgets/talvostylemanager.h>
+
+#include <QColor>
+#include <QDateTime>
+#include <QEvent>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QHash>
+#include <QIcon>
+#include <QPixmap>
+
+namespace LM {
+namespace Widgets {
+
+namespace {
+
+constexpr QSize PictureSize(20, 20);
+
+// The blank at the end belongs to the text: hosts compare it as it is.
+const char ButtonStyle[] = "background-color: transparent;border: 0px solid #3C3C3C; ";
+
+/** An icon and what its file looked like when it was read. */
+struct IconFile
+{
+    QDateTime modified;
+    qint64 size = -1;
+    qreal pixelRatio = 0.0; // decides whether the file for double resolution was looked for
+    QIcon icon;
+};
+
+using IconFiles = QHash<QString, IconFile>;
+Q_GLOBAL_STATIC(IconFiles, iconFiles)
+
+// The pictures must not outlive the application.
+void forgetIcons()
+{
+    if (!iconFiles.isDestroyed()) {
+        iconFiles->clear();
+    }
+}
+
+/**
+ * Returns the picture @p name of the current theme. All buttons with one picture share its icon, so
+ * that a list of thousands of layers reads and keeps it once; a file that has changed is read
+ * again.
+ */
+QIcon themeIcon(const char *name)
+{
+    const QString path = TalvoStyleManager::instance()->currentThemePath() +
+                         QLatin1String("qssimage/") + QLatin1String(name) + QLatin1String(".png");
+    if (iconFiles->isEmpty()) {
+        qAddPostRoutine(forgetIcons);
+    }
+    IconFile &file = (*iconFiles)[path];
+    const QFileInfo info(path);
+    const QDateTime modified = info.lastModified();
+    const qreal pixelRatio = qApp->devicePixelRatio();
+    if (file.icon.isNull() || file.size != info.size() || file.modified != modified ||
+        file.pixelRatio < pixelRatio) {
+        file = {modified, info.size(), pixelRatio, QIcon(path)};
+    }
+    return file.icon;
+}
+
+} // namespace
+
+customLayerToolButton::customLayerToolButton(int row, int column, QWidget *parent)
+    : QToolButton(parent), m_row(row), m_column(column)
+{
+    setCheckable(true);
+    setChecked(true);
+    setIconSize(PictureSize);
+    setStyleSheet(QLatin1String(ButtonStyle));
+}
+
+customLayerToolButton::~customLayerToolButton() = default;
+
+int customLayerToolButton::row() const
+{
+    return m_row;
+}
+
+int customLayerToolButton::column() const
+{
+    return m_column;
+}
+
+void customLayerToolButton::setDelete()
+{
+    setIcon(themeIcon("delete_2dvec"));
+}
+
+void customLayerToolButton::setEditEnable(bool enabled)
+{
+    // One picture for both states: editing shows elsewhere in the host, not on the button.
+    Q_UNUSED(enabled)
+    setIcon(themeIcon("layer_edit"));
+}
+
+void customLayerToolButton::setLockState(bool locked)
+{
+    setIcon(themeIcon(locked ? "layer_lock" : "layer_unlock"));
+}
+
+void customLayerToolButton::setVisibleState(bool visible)
+{
+    setIcon(themeIcon(visible ? "layer_view" : "layer_dis_view"));
+}
+
+bool customLayerToolButton::event(QEvent *event)
+{
+    // A widget that has been shown asks to be painted, even where its parent hides it. Qt compares
+    // each one that asks with all its siblings: the buttons below the edge of a long list take
+    // seconds for it.
+    if (event->type() == QEvent::UpdateLater && !isWindow() &&
+        !parentWidget()->rect().intersects(geometry())) {
+        return true;
+    }
+    return QToolButton::event(event);
+}
+
+void customLayerToolButton::setColor(const QColor &color)
+{
+    QPixmap swatch(PictureSize);
+    swatch.fill(QColor(color.name()));
+    setIcon(QIcon(swatch));
+}
+
+} // namespace Widgets
+} // namespace LM

@@ -1,0 +1,133 @@
+#include "lmtest.h"
+
+#include <lmwidgets/framelessdialog.h>
+#include <lmwidgets/framelessmessagebox.h>
+#include <lmwidgets/talvostylemanager.h>
+#include <lmwidgets/titlebar.h>
+
+#include <QDir>
+#include <QPushButton>
+#include <QTimer>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+using LM::Widgets::FramelessDialog;
+using LM::Widgets::FramelessMessageBox;
+using LM::Widgets::TalvoStyleManager;
+using LM::Widgets::TitleBar;
+
+/**
+ * A host that was installed without the theme: the widgets have no pictures, and everything else
+ * works. The program stands in a folder of its own, away from the theme that the others share.
+ */
+class tst_MissingTheme : public lmtest::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup();
+
+    void themeIsMissing();
+    void titleBar_data() { themes(); }
+    void titleBar();
+    void dialog_data() { themes(); }
+    void dialog();
+    void switchWhileShown();
+    void messageBox();
+
+private:
+    static void themes();
+};
+
+void tst_MissingTheme::themes()
+{
+    QTest::addColumn<int>("theme");
+    QTest::newRow("black") << 0;
+    QTest::newRow("white") << 1;
+    QTest::newRow("blue") << 2;
+    QTest::newRow("unknown") << 3;
+}
+
+void tst_MissingTheme::cleanup()
+{
+    TalvoStyleManager::instance()->shiftStyle(TalvoStyleManager::Black);
+}
+
+void tst_MissingTheme::themeIsMissing()
+{
+    QVERIFY(!QDir(lmtest::themeDir()).exists());
+    QVERIFY(!QDir(TalvoStyleManager::instance()->currentThemePath()).exists());
+}
+
+void tst_MissingTheme::titleBar()
+{
+    QFETCH(int, theme);
+    TalvoStyleManager::instance()->shiftStyle(TalvoStyleManager::ThemeStyleType(theme));
+    TitleBar bar;
+    bar.setTitle(QStringLiteral("Layers"));
+    bar.resize(400, 48);
+    bar.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&bar));
+    for (int type = 0; type < 5; ++type) {
+        QVERIFY(bar.isTitleButtonVisible(type));
+        QVERIFY(bar.titleButtonIcon(type).pixmap(16, 16).isNull());
+        QVERIFY(bar.titleButton(type)->width() >= 20);
+    }
+    QCOMPARE(bar.grab().size(), QSize(400, 48));
+    bar.switchMaxMin();
+    bar.grab();
+}
+
+void tst_MissingTheme::dialog()
+{
+    QFETCH(int, theme);
+    TalvoStyleManager::instance()->shiftStyle(TalvoStyleManager::ThemeStyleType(theme));
+    FramelessDialog dialog;
+    dialog.setWindowTitle(QStringLiteral("Layers"));
+    auto *layout = new QVBoxLayout;
+    layout->addWidget(new QPushButton(QStringLiteral("x")));
+    dialog.setLayout(layout);
+    dialog.setMaxButtonVisible(true);
+    dialog.setMessageboxStyleSheet();
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    const QImage picture = dialog.grab().toImage();
+    QCOMPARE(picture.pixelColor(picture.width() / 2, picture.height() - 14),
+             QColor(0x45, 0x45, 0x45));
+    QTest::mouseClick(dialog.getTitleBar()->titleButton(4), Qt::LeftButton);
+    QVERIFY(!dialog.isVisible());
+}
+
+void tst_MissingTheme::switchWhileShown()
+{
+    FramelessDialog dialog;
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    for (const int theme : {1, 2, 3, 0}) {
+        TalvoStyleManager::instance()->shiftStyle(TalvoStyleManager::ThemeStyleType(theme));
+        QVERIFY(!dialog.grab().isNull());
+        QVERIFY(dialog.isVisible());
+    }
+}
+
+void tst_MissingTheme::messageBox()
+{
+    for (const QMessageBox::Icon icon : {QMessageBox::Information, QMessageBox::Critical}) {
+        FramelessMessageBox box(icon, QStringLiteral("Title"), QStringLiteral("Text"),
+                                QMessageBox::Ok);
+        QCOMPARE(box.icon(), icon);
+        QVERIFY(box.iconPixmap().isNull());
+        QVERIFY(box.windowIcon().isNull());
+        box.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&box));
+        QCOMPARE(box.width(), 444);
+        QTest::mouseClick(box.button(QMessageBox::Ok), Qt::LeftButton);
+        QVERIFY(!box.isVisible());
+    }
+    QTimer::singleShot(0, qApp, [] { QApplication::activeModalWidget()->close(); });
+    FramelessMessageBox::about(nullptr, QStringLiteral("Title"), QStringLiteral("Text"));
+}
+
+LMTEST_MAIN(tst_MissingTheme)
+
+#include "tst_missingtheme.moc"
