@@ -97,6 +97,10 @@ Q_SIGNALS:
      * The box was folded, or opened. Also emitted at the first show, with the state that the box
      * begins with. Not emitted for a state that the box has already or that is set while it is not
      * visible.
+     *
+     * A slot may delete the box, except during the first show: Qt is then in the middle of showing
+     * it, so use deleteLater() there. When the user opens a whole group, every box tells of itself
+     * as its turn comes, and the panel is scrolled after the last one.
      */
     void collapsedStateChanged(bool collapsed);
 
@@ -169,8 +173,8 @@ private:
     bool m_scrollOnExpand = true;
     bool m_shown = false;
     QPointer<QScrollArea> m_parentScrollArea;
-    QPointer<GroupBoxCollapseButton>
-        m_collapseButton; // goes with the other children if a host clears the box
+    // Goes with the other children when a host clears the box.
+    QPointer<GroupBoxCollapseButton> m_collapseButton;
     QPointer<QWidget> m_syncParent;
     QString m_syncGroup;
     bool m_altDown = false;
