@@ -189,7 +189,7 @@ void CollapsibleGroupBoxBasic::changeState(bool collapse, bool mayScroll)
     // Hiding children and processing events may delete the box or change its state again.
     const QPointer<CollapsibleGroupBoxBasic> guard(this);
     applyState(collapse);
-    if (guard && mayScroll && m_collapsed == collapse && scrollsWhenOpen()) {
+    if (guard && mayScroll && scrollsWhenOpen()) {
         scrollIntoView({guard});
     }
     if (guard && wasCollapsed != collapse && m_collapsed == collapse) {

@@ -61,6 +61,7 @@ void tst_CollapsibleGroupBoxBasicClicks::otherButtonsAndPlaces()
     Box *box = panel.boxes.first();
     const QPoint title = box->titlePoint();
     click(box, title, Qt::NoModifier, Qt::RightButton);
+    QVERIFY(!box->isCollapsed());
     click(box, title, Qt::ShiftModifier, Qt::MiddleButton);
     click(box, box->rect().center());
     QVERIFY(!box->isCollapsed());

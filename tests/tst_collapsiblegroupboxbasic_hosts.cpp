@@ -6,6 +6,22 @@
 
 using namespace groupboxtest;
 
+namespace {
+
+/** Counts how often it is carried out. */
+class CountingLayout : public QVBoxLayout
+{
+public:
+    void setGeometry(const QRect &rect) override
+    {
+        ++layOuts;
+        QVBoxLayout::setGeometry(rect);
+    }
+    int layOuts = 0;
+};
+
+} // namespace
+
 class tst_CollapsibleGroupBoxBasicHosts : public lmtest::TestCase
 {
     Q_OBJECT
@@ -24,6 +40,7 @@ private Q_SLOTS:
     void siblingDeletedWhileShowingChildren_data();
     void siblingDeletedWhileShowingChildren();
     void resizedWhileShowingChildren();
+    void panelIsLaidOutOnceForAGroup();
     void deletedByAListenerOfTheScrollBar();
     void areaDestroyedWhileOpening();
     void panelTakenOutOfItsArea();
@@ -131,10 +148,18 @@ void tst_CollapsibleGroupBoxBasicHosts::doesNotScroll()
     QVERIFY(panel.area->verticalScrollBar()->maximum() > 0);
     QCOMPARE(panel.scrolled(), 0);
 
-    // The first show does not scroll.
+    // The first show does not scroll, not even to a box that a listener opens at once.
     Panel open(6, 10);
     open.show();
     QCOMPARE(open.scrolled(), 0);
+    Panel opened(6, 10);
+    Box *last = opened.boxes[5];
+    last->setCollapsed(true);
+    connect(last, &CollapsibleGroupBoxBasic::collapsedStateChanged, last,
+            [last] { last->setCollapsed(false); });
+    opened.show();
+    QVERIFY(!last->isCollapsed());
+    QCOMPARE(opened.scrolled(), 0);
 
     // Neither does a box that is deeper inside than a box of the panel.
     Panel outer(3, 10);
@@ -326,10 +351,53 @@ void tst_CollapsibleGroupBoxBasicHosts::resizedWhileShowingChildren()
     const QMargins margins = layout->contentsMargins();
     QTRY_COMPARE(box->width(), 500 - margins.left() - margins.right());
 
+    // The same for a host that processes events itself.
+    box->setCollapsed(true);
+    QTRY_COMPARE(box->height(), box->maximumHeight());
+    EventWatcher events(box->findChild<QLabel *>(), QEvent::Show,
+                        [] { QCoreApplication::sendPostedEvents(); });
+    box->setCollapsed(false);
+    QTRY_VERIFY(box->height() > 40);
+
     // A layout that the host has switched off stays off.
     layout->setEnabled(false);
     box->setCollapsed(true);
     QVERIFY(!layout->isEnabled());
+}
+
+void tst_CollapsibleGroupBoxBasicHosts::panelIsLaidOutOnceForAGroup()
+{
+    // However many boxes there are: else a long panel takes the square of the time.
+    const auto layOutsOfAGroup = [](int count) {
+        QScrollArea area;
+        area.setWidgetResizable(true);
+        auto *content = new QWidget;
+        auto *column = new CountingLayout;
+        content->setLayout(column);
+        QVector<Box *> boxes;
+        for (int i = 0; i < count; ++i) {
+            boxes.append(makeBox(QString::number(i)));
+            boxes.last()->setSyncGroup(Group);
+            boxes.last()->setCollapsed(true);
+            column->addWidget(boxes.last());
+        }
+        area.setWidget(content);
+        area.resize(300, 200);
+        area.show();
+        QCoreApplication::processEvents();
+        column->layOuts = 0;
+        lmtest::mouse(boxes[0]->arrow(), QEvent::MouseButtonPress, QPoint(8, 8), Qt::LeftButton,
+                      Qt::LeftButton, Qt::ControlModifier);
+        lmtest::mouse(boxes[0]->arrow(), QEvent::MouseButtonRelease, QPoint(8, 8), Qt::LeftButton,
+                      Qt::LeftButton, Qt::ControlModifier);
+        QCoreApplication::processEvents();
+        return boxes.last()->isCollapsed() ? 0 : column->layOuts;
+    };
+    for (const int count : {3, 30}) {
+        const int layOuts = layOutsOfAGroup(count);
+        QVERIFY(layOuts >= 1);
+        QVERIFY(layOuts <= 3);
+    }
 }
 
 void tst_CollapsibleGroupBoxBasicHosts::deletedByAListenerOfTheScrollBar()

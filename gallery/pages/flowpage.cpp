@@ -5,6 +5,7 @@
 #include <lmwidgets/flowlayout.h>
 
 #include <QCheckBox>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QSlider>
@@ -18,8 +19,7 @@ namespace {
 
 constexpr int TagSpacing = 8;
 constexpr int TagMargin = 12;
-constexpr int LeastWidth = 160;
-constexpr int MostWidth = 900;
+constexpr int MostSpace = 600;
 constexpr int SliderWidth = 240;
 
 const QStringList &tagNames()
@@ -96,14 +96,15 @@ private:
     int m_added = 0;
 };
 
-QSlider *widthSlider(QWidget *area)
+/** A slider that takes room away from what stands at the left of @p space. */
+QSlider *widthSlider(QWidget *space)
 {
     auto *slider = new QSlider(Qt::Horizontal);
-    slider->setRange(LeastWidth, MostWidth);
-    slider->setValue(MostWidth);
+    slider->setRange(0, MostSpace);
+    slider->setInvertedAppearance(true);
     slider->setFixedWidth(SliderWidth);
-    QObject::connect(slider, &QSlider::valueChanged, area, &QWidget::setMaximumWidth);
-    area->setMaximumWidth(MostWidth);
+    QObject::connect(slider, &QSlider::valueChanged, space, &QWidget::setFixedWidth);
+    space->setFixedWidth(0);
     return slider;
 }
 
@@ -116,12 +117,18 @@ QWidget *createContent(SignalLog &log)
         QStringLiteral("Make the window narrower, or move the slider: the tags wrap, and what is "
                        "below follows. A click removes a tag."));
     auto *tags = new TagArea(&log);
-    QWidget *frame = framed(tags);
-    body->addWidget(row({new QLabel(QStringLiteral("Width")), widthSlider(frame),
+    auto *space = new QWidget;
+    body->addWidget(row({new QLabel(QStringLiteral("Width")), widthSlider(space),
                          button(QStringLiteral("Add a tag"), [tags] { tags->addNext(); }),
                          check(QStringLiteral("Hide every second"), false,
                                [tags](bool thinned) { tags->setThinned(thinned); })}));
-    body->addWidget(frame);
+    // A layout does not ask what the height is at a widget's maximum width, so the width is set by
+    // what stands beside it.
+    auto *line = new QHBoxLayout;
+    line->setSpacing(0);
+    line->addWidget(framed(tags), 1);
+    line->addWidget(space);
+    body->addLayout(line);
     body->addWidget(paragraph(QStringLiteral("This line stands below the last row of tags.")));
     return content;
 }
