@@ -32,9 +32,8 @@ void CheckBoxHeaderView::mousePressEvent(QMouseEvent *event)
         return;
     }
     const QPointer<CheckBoxHeaderView> self(this);
-    // The place on the screen is compared with the logical check column: hosts that move sections
-    // rely on the box staying with the place. Past the last section there is no place, whatever the
-    // column.
+    // Hosts count on the visual index here; it differs from the logical one once sections are moved.
+    // Past the last section there is no section, and -1 as the check column names none.
     const int section = visualIndexAt(event->x());
     if (section >= 0 && section == m_checkColumn) {
         m_checked = !m_checked;
@@ -66,7 +65,10 @@ void CheckBoxHeaderView::paintSection(QPainter *painter, const QRect &rect, int 
     const QString themePath = TalvoStyleManager::instance()->currentThemePath();
     const QPixmap selected(themePath + QStringLiteral("qssimage/selected.png"));
     const QPixmap unselected(themePath + QStringLiteral("qssimage/unselected.png"));
+    painter->save();
+    painter->setRenderHint(QPainter::SmoothPixmapTransform);
     painter->drawPixmap(QRect(m_position, m_size), m_checked ? selected : unselected);
+    painter->restore();
 }
 
 } // namespace Widgets

@@ -16,21 +16,26 @@ namespace Widgets {
  * @brief A header with a check-box picture over one section, for a "select all" above a column.
  *
  * The picture is "qssimage/selected.png" or "qssimage/unselected.png" of the current theme, scaled
- * to the size given at construction and drawn at the place given there. That place is in the
- * coordinates of the header and does not follow the section when columns are moved, resized or
- * scrolled. A press anywhere in the section toggles the box; the host checks or unchecks its rows
- * when it is told. An image file that is missing draws nothing.
+ * to the size given at construction and drawn at the place given there, with the check section. The
+ * place is in the coordinates of the header: it does not follow the section when columns are moved
+ * or resized, and only that section is painted again when the box toggles. Keep the picture inside
+ * its section, in a header that does not scroll. An image file that is missing draws nothing.
+ *
+ * A press of any mouse button anywhere in the section toggles the box; the second press of a double
+ * click does not. The host checks or unchecks its rows when it is told.
  *
  * @code
- * auto *header = new LM::Widgets::CheckBoxHeaderView(
- *     0, QPoint(8, 6), QSize(16, 16), Qt::Horizontal, view);
+ * auto *header = new LM::Widgets::CheckBoxHeaderView(0, QPoint(8, 6), QSize(16, 16),
+ *                                                    Qt::Horizontal, view);
  * view->setHorizontalHeader(header);
  * connect(header, &LM::Widgets::CheckBoxHeaderView::signalCheckStateChanged, model,
- * &Model::checkAll);
+ *         &Model::checkAll);
  * @endcode
  *
- * Every press, wherever it hits the header, emits the inherited sectionClicked() at once; with
- * setSectionsClickable(true) QHeaderView emits it a second time when the mouse is released.
+ * Every press, wherever it hits the header, emits the inherited sectionClicked() at once, with the
+ * visual index of the section or -1 past the last one; with setSectionsClickable(true) QHeaderView
+ * emits it a second time when the mouse is released, with the logical index. In a vertical header
+ * too the section is looked up by the horizontal position of the press.
  */
 class LMWIDGETS_EXPORT CheckBoxHeaderView : public QHeaderView
 {
@@ -39,9 +44,8 @@ class LMWIDGETS_EXPORT CheckBoxHeaderView : public QHeaderView
 public:
     /**
      * Constructs a header whose section @p checkColumnIndex, a logical index, carries a checked box
-     * of
-     * @p size px with its top left corner at @p topLeft, which is in the coordinates of the header.
-     * With an index that no section has, or an empty size, no box is drawn.
+     * of @p size px with its top left corner at @p topLeft, which is in the coordinates of the
+     * header. With an index that no section has, or an empty size, no box is drawn.
      */
     explicit CheckBoxHeaderView(int checkColumnIndex, QPoint topLeft, QSize size,
                                 Qt::Orientation orientation, QWidget *parent = nullptr);

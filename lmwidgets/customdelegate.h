@@ -16,7 +16,8 @@ namespace Widgets {
  * The cells of column 0 are painted 14 px further right than QStyledItemDelegate paints them and
  * keep their width, so they end 14 px further right as well; background and selection move with the
  * content. Every other column, and the place of an editor in any column, is as with
- * QStyledItemDelegate. The layer table uses it for the names of layers.
+ * QStyledItemDelegate; a check box in column 0 is clicked where it would be without the indentation.
+ * The layer table uses it for the names of layers.
  *
  * @code
  * table->setItemDelegateForColumn(0, new LM::Widgets::CustomDelegate(table));
@@ -33,8 +34,7 @@ public:
 
     /**
      * Paints the cell @p index, in column 0 with an indentation of 14 px. A null @p painter or an
-     * invalid
-     * @p index paints nothing.
+     * invalid @p index paints nothing.
      */
     void paint(QPainter *painter, const QStyleOptionViewItem &option,
                const QModelIndex &index) const override;

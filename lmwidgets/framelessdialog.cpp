@@ -362,6 +362,10 @@ QIcon FramelessDialog::windowIcon()
 void FramelessDialog::setWindowTitle(const QString &title)
 {
     if (d->titleBar) {
+        // The window itself has no title, so what reads the screen to somebody is told here.
+        if (accessibleName() == d->titleBar->title()) {
+            setAccessibleName(title);
+        }
         d->titleBar->setTitle(title);
         d->titleBar->setStyleSheet(QLatin1String(TitleBarStyle));
     }

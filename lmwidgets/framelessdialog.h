@@ -145,7 +145,8 @@ public:
     /**
      * Sets the text of the title bar, aligned to the left, and gives the title bar its style sheet,
      * which replaces one set on it before; the label's own style sheet stays. Hides
-     * QWidget::setWindowTitle(): the window itself gets no title.
+     * QWidget::setWindowTitle(): the window itself gets no title, but it is its accessible name,
+     * unless the host has set another.
      */
     void setWindowTitle(const QString &title);
     /** Returns the text of the title bar. */

@@ -124,6 +124,39 @@ void FramelessMessageBoxPrivate::replaceLostEscapeButton(bool hadEscapeButton)
     // A box on the screen that could be left with Escape stays so when its buttons are exchanged.
     if (hadEscapeButton && q->isVisible() && !buttonBox->buttons().contains(detectedEscapeButton)) {
         detectEscapeButton();
+        settleCloseButton();
+    }
+}
+
+/** Shows the close button only where a button stands for Escape, and only if the host wants it. */
+void FramelessMessageBoxPrivate::settleCloseButton()
+{
+    const bool wanted = q->getCloseButtonVisible() || closeButtonTakenAway;
+    const bool possible = detectedEscapeButton;
+    closeButtonTakenAway = wanted && !possible;
+    q->setCloseButtonVisible(wanted && possible);
+}
+
+/**
+ * Gives the focus to the button that answers positively where nobody has given it away. Otherwise
+ * the leftmost button would have it and be pressed by Enter: No before Yes, or even the details.
+ */
+void FramelessMessageBoxPrivate::settleFirstFocus()
+{
+    if (q->focusWidget()) {
+        return;
+    }
+    const QList<QAbstractButton *> buttons = buttonBox->buttons();
+    for (const QDialogButtonBox::ButtonRole role :
+         {QDialogButtonBox::AcceptRole, QDialogButtonBox::YesRole, QDialogButtonBox::ApplyRole,
+          QDialogButtonBox::DestructiveRole, QDialogButtonBox::RejectRole, QDialogButtonBox::NoRole,
+          QDialogButtonBox::ResetRole}) {
+        for (QAbstractButton *button : buttons) {
+            if (buttonBox->buttonRole(button) == role && !button->isHidden()) {
+                button->setFocus(Qt::OtherFocusReason);
+                return;
+            }
+        }
     }
 }
 
@@ -196,7 +229,9 @@ QAbstractButton *FramelessMessageBoxPrivate::buttonForKey(const QKeyEvent *event
     const QList<QAbstractButton *> buttons = buttonBox->buttons();
     for (QAbstractButton *button : buttons) {
         const QKeySequence shortcut = button->shortcut();
-        if (!shortcut.isEmpty() && key == (shortcut[0] & ~static_cast<int>(Qt::MODIFIER_MASK))) {
+        // A button that the host has hidden must not answer.
+        if (!shortcut.isEmpty() && !button->isHidden() &&
+            key == (shortcut[0] & ~static_cast<int>(Qt::MODIFIER_MASK))) {
             return button;
         }
     }
@@ -462,8 +497,10 @@ void FramelessMessageBox::showEvent(QShowEvent *event)
     QAccessibleEvent alert(this, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
 #endif
-    setCloseButtonVisible(getCloseButtonVisible() && d->detectedEscapeButton);
+    d->settleCloseButton();
+    d->settleTabOrder();
     FramelessDialog::showEvent(event);
+    d->settleFirstFocus();
 }
 
 void FramelessMessageBox::closeEvent(QCloseEvent *event)

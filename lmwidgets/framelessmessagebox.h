@@ -30,9 +30,12 @@ class FramelessMessageBoxPrivate;
  * - The box is 444 px wide, whatever its text, and as high as its text needs.
  * - The icon stands in the title bar, not beside the text.
  * - setDefaultOKButton() gives the usual buttons fixed captions and a yellow or a transparent look.
- * - An OK button, where there is one, is always the default button.
+ * - An OK button, where there is one, becomes the default button with setDefaultButton() of another
+ *   standard button and with setWindowModality().
  * - The informative text is kept, and copied by Ctrl+C, but not shown.
- * - Where no button can stand for Escape, the title bar has no close button.
+ * - Where no button can stand for Escape, the title bar has no close button. That is so for a single
+ *   button beside the details as well: name one with setEscapeButton() there.
+ * - A word that is wider than 374 px is cut off, and so is text that is higher than the screen.
  *
  * @code
  * using LM::Widgets::FramelessMessageBox;
@@ -42,6 +45,9 @@ class FramelessMessageBoxPrivate;
  *     deleteLayer();
  * }
  * @endcode
+ *
+ * Where nobody has given the focus to a widget of the box before it is shown, it goes to the button
+ * that accepts or says yes.
  *
  * A slot may delete the box from within any signal that it emits.
  */

@@ -220,6 +220,18 @@ void FramelessMessageBoxPrivate::setupBottomRow()
     q->setObjectName(QStringLiteral("globa_pMessageBox"));
     row->removeWidget(buttonBox);
     row->addWidget(buttonBox);
+    settleTabOrder();
+}
+
+/**
+ * Lets Tab reach the check box before the buttons, as they are seen. Behind the button box it would
+ * never be reached: the button box hands the focus to its first button, past the check box.
+ */
+void FramelessMessageBoxPrivate::settleTabOrder()
+{
+    if (checkbox && q->GetApplyButton()) {
+        QWidget::setTabOrder(q->GetApplyButton(), checkbox);
+    }
 }
 
 void FramelessMessageBoxPrivate::installShadow()
@@ -255,6 +267,7 @@ void FramelessMessageBoxPrivate::updateSize()
     const int height = labelHeight(availableGeometryAtCursor().height() - chrome);
     label->updateGeometry();
     q->setFixedSize(BoxWidth, height + chrome);
+    keepOnScreen();
     q->setMessageboxStyleSheet();
 
     q->getMainLayout()->activate();
@@ -262,6 +275,23 @@ void FramelessMessageBoxPrivate::updateSize()
     placeDetails();
     // They come from this rule itself, which must not run for ever.
     QCoreApplication::removePostedEvents(q, QEvent::LayoutRequest);
+}
+
+/**
+ * Moves a box that has grown on the screen, by its details or another text, back into its screen. No
+ * window manager does that for a window which bypasses it.
+ */
+void FramelessMessageBoxPrivate::keepOnScreen()
+{
+    const QWindow *window = q->windowHandle();
+    if (!window || !window->isVisible() || !window->screen()) {
+        return;
+    }
+    const QRect available = window->screen()->availableGeometry();
+    const QRect frame = q->frameGeometry();
+    if (frame.bottom() > available.bottom()) {
+        q->move(q->x(), qMax(available.top(), available.bottom() + 1 - frame.height()));
+    }
 }
 
 void FramelessMessageBoxPrivate::updateInformativeLabel()

@@ -61,6 +61,10 @@ public:
 
     void setupLayout();
     void setupBottomRow();
+    void settleTabOrder();
+    void settleFirstFocus();
+    void settleCloseButton();
+    void keepOnScreen();
     void installShadow();
     void updateSize();
     void updateInformativeLabel();
@@ -117,6 +121,8 @@ public:
     QByteArray memberToDisconnectOnClose;
     QByteArray signalToDisconnectOnClose;
     QPointer<QGraphicsEffect> shadow;
+    // The close button was hidden because nothing stood for Escape, and not by the host.
+    bool closeButtonTakenAway = false;
     // How much of the label lies behind the button row, in px.
     int labelOverlap = 0;
 };

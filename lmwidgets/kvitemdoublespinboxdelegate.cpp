@@ -102,7 +102,10 @@ void kvItemDoubleSpinboxDelegate::setModelData(QWidget *editor, QAbstractItemMod
     spinBox->interpretText();
     QString text = QString::number(spinBox->value(), 'f', decimals);
     if (empty && m_enableEmptyString) {
-        text = QString();
+        // An empty text and not a null one, which a database would store as NULL.
+        text = QLatin1String("");
+        // The interpretation has put the last value back; a persistent editor would write it next.
+        spinBox->clear();
     }
     model->setData(index, QVariant(text), Qt::EditRole);
 }

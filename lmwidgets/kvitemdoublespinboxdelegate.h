@@ -27,7 +27,11 @@ class LMWIDGETS_EXPORT kvItemDoubleSpinboxDelegate : public QItemDelegate
     Q_OBJECT
 
 public:
-    /** Constructs a delegate for numbers between -999999999.9999999 and 999999999.9999999. */
+    /**
+     * Constructs a delegate for numbers between -999999999.9999999 and 999999999.9999999. An editor
+     * rounds its bounds to three decimals like all numbers, so it really offers -1000000000.000 to
+     * 1000000000.000.
+     */
     explicit kvItemDoubleSpinboxDelegate(QObject *parent = nullptr);
     ~kvItemDoubleSpinboxDelegate() override;
 
@@ -41,7 +45,8 @@ public:
     /**
      * Sets whether a cell may be empty; false at start. If so, an empty cell opens an empty editor,
      * and an empty editor writes an empty text; if not, an empty cell opens as 0 and is written as
-     * "0.000".
+     * "0.000". Set it before an editor is created: the arrow keys and Return leave an empty field
+     * alone only in an editor that was made for empty cells.
      */
     void setEnableEmptyStr(bool enable);
 
@@ -54,8 +59,10 @@ public:
      * index.
      */
     void setEditorData(QWidget *editor, const QModelIndex &index) const override;
-    /** Writes the content of the spin box @p editor to the cell @p index of @p model; ignores as
-     * above. */
+    /**
+     * Writes the content of the spin box @p editor to the cell @p index of @p model; ignores as
+     * above.
+     */
     void setModelData(QWidget *editor, QAbstractItemModel *model,
                       const QModelIndex &index) const override;
     /** Gives @p editor the whole rectangle of the cell. */

@@ -15,8 +15,8 @@ QWidget *KVItemLineEditDelegate::createEditor(QWidget *parent, const QStyleOptio
                                               const QModelIndex &) const
 {
     auto *editor = new QLineEdit(parent);
-    // Hosts find the validators of a view among the children of its viewport. Only a line edit that
-    // has no parent keeps its validator itself.
+    // The validator lives as long as the view's viewport, which hosts may rely on. Only a line edit
+    // that has no parent keeps its validator itself.
     QObject *validatorParent = parent ? parent : editor;
     editor->setValidator(new QRegExpValidator(m_regExp, validatorParent));
     return editor;

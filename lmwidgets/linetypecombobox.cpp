@@ -33,6 +33,7 @@ constexpr int dotExtent = 3; // the dot with the stroke around it
 constexpr int cachedBytes = 8 * 1024 * 1024;
 constexpr int itemBytes = 1024;    // about what an item takes beside its picture
 constexpr int emptyBoxLetters = 7; // the room that QComboBox keeps while it has no items
+constexpr int iconMargin = 4;      // and what it keeps beside an icon, in px
 
 QString continuousPattern()
 {
@@ -84,15 +85,28 @@ QVarLengthArray<int, 32> patternValues(const QString &pattern, int limit)
 }
 
 /**
- * Returns the width of @p box when it had no items. The pictures are as wide as the box: a hint
- * that made room for them would grow with every layout pass, and the window with it.
+ * Returns the width that @p box would ask for if it had no items. The pictures are as wide as the
+ * box: a hint that made room for them would grow with every layout pass, and the window with it.
  */
-int widthWithoutPictures(const QComboBox *box, const QStyleOptionComboBox &option)
+int widthWithoutPictures(const QComboBox *box, const QStyleOptionComboBox &option, bool minimum)
 {
     const QFontMetrics metrics = box->fontMetrics();
-    const int contents =
-        qMax(emptyBoxLetters * metrics.horizontalAdvance(QLatin1Char('x')),
-             box->minimumContentsLength() * metrics.horizontalAdvance(QLatin1Char('X')));
+    const QComboBox::SizeAdjustPolicy policy = box->sizeAdjustPolicy();
+    const int letters = box->minimumContentsLength();
+    const bool adjustsToContents =
+        policy == QComboBox::AdjustToContents || policy == QComboBox::AdjustToContentsOnFirstShow;
+    int contents = QSize().width(); // what QComboBox begins with
+    if (adjustsToContents && (!minimum || letters == 0)) {
+        contents = emptyBoxLetters * metrics.horizontalAdvance(QLatin1Char('x'));
+    }
+    if (letters > 0) {
+        const bool withIcon = policy == QComboBox::AdjustToMinimumContentsLengthWithIcon;
+        const int icon =
+            withIcon
+                ? box->style()->pixelMetric(QStyle::PM_SmallIconSize, &option, box) + iconMargin
+                : 0;
+        contents = qMax(contents, letters * metrics.horizontalAdvance(QLatin1Char('X')) + icon);
+    }
     const QSize size(contents, metrics.height());
     return box->style()->sizeFromContents(QStyle::CT_ComboBox, &option, size, box).width();
 }
@@ -216,7 +230,8 @@ bool operator==(const ItemKey &a, const ItemKey &b)
 
 uint qHash(const ItemKey &key, uint seed = 0)
 {
-    return ::qHash(key.name, seed) ^ ::qHash(key.pattern, seed) ^ ::qHash(key.width, seed);
+    // One after the other: where name and pattern are equal, their hashes would cancel out.
+    return ::qHash(key.width, ::qHash(key.pattern, ::qHash(key.name, seed)));
 }
 
 /**
@@ -290,7 +305,7 @@ void LineTypeComboBox::updateIcons()
     if (m_rebuildsRunning == 0) {
         m_rememberedIndex = currentIndex();
     }
-    const int rebuild = ++m_rebuilds;
+    const unsigned int rebuild = ++m_rebuilds;
     const int pictureWidth = width();
     const auto lineTypes = m_lineTypes;
     {
@@ -368,14 +383,14 @@ QSize LineTypeComboBox::sizeHint() const
 {
     QStyleOptionComboBox option;
     initStyleOption(&option);
-    return QSize(widthWithoutPictures(this, option), QComboBox::sizeHint().height());
+    return QSize(widthWithoutPictures(this, option, false), QComboBox::sizeHint().height());
 }
 
 QSize LineTypeComboBox::minimumSizeHint() const
 {
     QStyleOptionComboBox option;
     initStyleOption(&option);
-    return QSize(widthWithoutPictures(this, option), QComboBox::minimumSizeHint().height());
+    return QSize(widthWithoutPictures(this, option, true), QComboBox::minimumSizeHint().height());
 }
 
 void LineTypeComboBox::resizeEvent(QResizeEvent *)

@@ -24,7 +24,8 @@ namespace Widgets {
  * theme: the box belongs on a dark background.
  *
  * A pattern is either the word "CONTINUOUS" or a list of whole numbers with commas between them,
- * each a length in px: a positive number is a dash, a negative number a gap, and 0 a dot.
+ * each a length in px: a positive number is a dash, a negative number a gap, and 0 a dot. Dashes have
+ * square ends that reach 1 px further on either side, so a gap of 3 px shows as 1 px.
  *
  * @code
  * auto *box = new LM::Widgets::LineTypeComboBox(this);
@@ -33,11 +34,13 @@ namespace Widgets {
  * });
  * @endcode
  *
- * The items are made anew on every resize, so a combo box that was never resized or shown has none,
- * and currentIndexChanged() is emitted during a resize: -1 when the old items go, 0 when the first
- * new item arrives, and then the former index where that was another one. Block the signals, or
- * compare the name, where only the user's choice matters. Items that the host adds are gone after
- * the next resize.
+ * The items are made on every resize and by updateIcons() and addLineType(); before the first of
+ * these there are none. currentIndexChanged() is emitted meanwhile: -1 when the old items go, if one
+ * of them was current, 0 when the first new item arrives, and then the former index where that was
+ * another one. Block the signals, or compare the name, where only the user's choice matters. A slot
+ * that changes the items at that moment disturbs the order of what follows, and one that wants to be
+ * rid of the box calls deleteLater(). Items that the host adds are gone after the next resize. Boxes
+ * of one width share their pictures.
  */
 class LMWIDGETS_EXPORT LineTypeComboBox : public QComboBox
 {
@@ -77,8 +80,8 @@ public:
     void addLineType(const QString &name, const QString &pattern);
 
     /**
-     * Returns the width of a combo box without items, however wide the pictures are, and the height
-     * that QComboBox asks for.
+     * Returns the width of a stock combo box without items under the same sizeAdjustPolicy() and
+     * minimumContentsLength(), however wide the pictures are, and the height that QComboBox asks for.
      */
     QSize sizeHint() const override;
     /** Returns the same width as sizeHint(), and the height that QComboBox asks for at least. */
@@ -95,7 +98,7 @@ private:
 
     QMap<QString, QString> m_extraLineTypes;
     QVector<QPair<QString, QString>> m_lineTypes;
-    int m_rebuilds = 0;
+    unsigned int m_rebuilds = 0;
     int m_rebuildsRunning = 0;
     int m_rememberedIndex = -1;
 };

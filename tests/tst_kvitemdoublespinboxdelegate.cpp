@@ -75,6 +75,8 @@ class tst_KvItemDoubleSpinboxDelegate : public lmtest::TestCase
 private Q_SLOTS:
     void emptyCellEnabled_data();
     void emptyCellEnabled();
+    void persistentEditorStaysEmpty();
+    void typedTextIsInterpreted();
     void emptyCellDisabled();
     void threeDecimals();
     void modelGetsText();
@@ -115,7 +117,7 @@ void tst_KvItemDoubleSpinboxDelegate::emptyCellEnabled()
     QFETCH(int, key);
     EditedView view;
     view.delegate.setEnableEmptyStr(true);
-    QDoubleSpinBox *editor = view.open(QString());
+    QDoubleSpinBox *editor = view.open(QVariant());
     QVERIFY(editor);
     QCOMPARE(editor->text(), QString());
     QSignalSpy changed(&view.cells, &QAbstractItemModel::dataChanged);
@@ -123,8 +125,44 @@ void tst_KvItemDoubleSpinboxDelegate::emptyCellEnabled()
     QTest::keyClick(editor, Qt::Key(key));
     QTRY_VERIFY(!watch || !watch->isVisible());
     const QVariant data = view.cells.data(view.cell(), Qt::EditRole);
+    QCOMPARE(changed.count(), 1);
     QCOMPARE(data.type(), QVariant::String);
-    QCOMPARE(data.toString(), QString());
+    QVERIFY(data.toString().isEmpty());
+    QVERIFY2(!data.isNull(), "a database would take a null text for NULL");
+}
+
+// Such an editor stays open and is written again and again.
+void tst_KvItemDoubleSpinboxDelegate::persistentEditorStaysEmpty()
+{
+    EditedView view;
+    view.delegate.setEnableEmptyStr(true);
+    view.cells.setData(view.cell(), QString());
+    view.openPersistentEditor(view.cell());
+    QDoubleSpinBox *editor = view.editor();
+    QVERIFY(editor);
+    editor->setFocus();
+    QTest::keyClick(editor, Qt::Key_5);
+    QTest::keyClick(editor, Qt::Key_Backspace);
+    QCOMPARE(editor->text(), QString());
+    view.delegate.setModelData(editor, &view.cells, view.cell());
+    QCOMPARE(view.text(), QString());
+    QCOMPARE(editor->text(), QString());
+    view.delegate.setModelData(editor, &view.cells, view.cell());
+    QCOMPARE(view.text(), QString());
+}
+
+// What is typed and not yet taken over by the spin box is written all the same.
+void tst_KvItemDoubleSpinboxDelegate::typedTextIsInterpreted()
+{
+    EditedView view;
+    QDoubleSpinBox *editor = view.open(1.0);
+    QVERIFY(editor);
+    editor->setKeyboardTracking(false);
+    QTest::keyClick(editor, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(editor, QStringLiteral("7.5"));
+    QCOMPARE(editor->value(), 1.0);
+    view.delegate.setModelData(editor, &view.cells, view.cell());
+    QCOMPARE(view.text(), QStringLiteral("7.500"));
 }
 
 void tst_KvItemDoubleSpinboxDelegate::emptyCellDisabled()

@@ -8,6 +8,7 @@
 #include <QRandomGenerator>
 #include <QSignalSpy>
 #include <QStandardItemModel>
+#include <QStringListModel>
 
 #include <limits>
 
@@ -200,6 +201,12 @@ private Q_SLOTS:
     void picturesAreIndependent();
     void widePicture();
     void hintIgnoresPictures();
+    void hintAsWithoutItems_data();
+    void hintAsWithoutItems();
+    void boxesShareThePicturesAlone();
+    void picturesDroppedWithinSignal();
+    void noMoreItemsThanAllowed();
+    void foreignModel();
     void windowDoesNotGrow();
     void keysAndWheel();
     void paintsCurrentPicture();
@@ -534,6 +541,24 @@ void tst_LineTypeComboBox::clearedWithinSignal()
     });
     box.resizeNow(120);
     QCOMPARE(box.count(), 15);
+    QCOMPARE(box.itemData(14).toString(), QStringLiteral("ACAD_ISO15W100"));
+    box.disconnect(this);
+
+    // A slot that clears the box in the middle gets the items that come after it, and the next
+    // resize puts all of them back.
+    bool cleared = false;
+    connect(&box, QOverload<int>::of(&QComboBox::currentIndexChanged), this, [&](int index) {
+        if (index == 0 && !cleared) {
+            cleared = true;
+            box.clear();
+        }
+    });
+    box.resizeNow(140);
+    QVERIFY(cleared);
+    QVERIFY(box.count() < 15);
+    box.resizeNow(160);
+    QCOMPARE(box.count(), 15);
+    QCOMPARE(box.iconSize(), QSize(160, 31));
 }
 
 void tst_LineTypeComboBox::continuous()
@@ -564,7 +589,7 @@ void tst_LineTypeComboBox::wholePicture_data()
     QTest::newRow("dash, dot") << "6,-3,0,-3" << 30 << QByteArray("#######..###..########..###...");
     QTest::newRow("dash alone") << "5" << 12 << QByteArray(12, '#');
     QTest::newRow("gap first") << "-4,4" << 14 << QByteArray("...######..###");
-    QTest::newRow("gaps in a row") << "4,-2,-3" << 16 << QByteArray("#####...#######.");
+    QTest::newRow("gaps in a row") << "4,-2,-3" << 16 << QByteArray("#####...######..");
     QTest::newRow("gap only") << "-5" << 12 << QByteArray(12, '.');
     QTest::newRow("gaps only") << "-1,-1,-2" << 12 << QByteArray(12, '.');
     QTest::newRow("dash of one") << "1,-5" << 14 << QByteArray("##...###...###");
@@ -577,9 +602,6 @@ void tst_LineTypeComboBox::wholePicture()
     QFETCH(QString, pattern);
     QFETCH(int, width);
     QFETCH(QByteArray, row14);
-    if (pattern == QLatin1String("4,-2,-3")) {
-        row14 = dashRow({{0, 4}, {9, 13}}, 16);
-    }
     const QImage image = picture(pattern, width);
     QCOMPARE(row(image, 14), row14);
     for (int y : {0, 11, 12, 17, 30}) {
@@ -783,6 +805,101 @@ void tst_LineTypeComboBox::hintIgnoresPictures()
     QVERIFY(box.sizeHint().height() >= 31);
     box.setMinimumContentsLength(40);
     QVERIFY(box.sizeHint().width() > width);
+}
+
+void tst_LineTypeComboBox::hintAsWithoutItems_data()
+{
+    QTest::addColumn<int>("policy");
+    QTest::addColumn<int>("letters");
+    for (int letters : {0, 3, 20}) {
+        const auto row = [letters](const char *name, int policy) {
+            QTest::addRow("%s, %d", name, letters) << policy << letters;
+        };
+        row("contents", QComboBox::AdjustToContents);
+        row("first show", QComboBox::AdjustToContentsOnFirstShow);
+        row("length and icon", QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    }
+}
+
+void tst_LineTypeComboBox::hintAsWithoutItems()
+{
+    QFETCH(int, policy);
+    QFETCH(int, letters);
+    QComboBox stock;
+    ResizedBox box;
+    for (QComboBox *each : {&stock, static_cast<QComboBox *>(&box)}) {
+        each->setSizeAdjustPolicy(static_cast<QComboBox::SizeAdjustPolicy>(policy));
+        each->setMinimumContentsLength(letters);
+    }
+    for (int width : {0, 100, 700}) {
+        if (width > 0) {
+            box.resizeNow(width);
+        }
+        QCOMPARE(box.sizeHint().width(), stock.sizeHint().width());
+        QCOMPARE(box.minimumSizeHint().width(), stock.minimumSizeHint().width());
+    }
+}
+
+// Two boxes of one width share their pictures, and nothing else.
+void tst_LineTypeComboBox::boxesShareThePicturesAlone()
+{
+    ResizedBox first;
+    ResizedBox second;
+    first.resizeNow(173);
+    second.resizeNow(173);
+    for (int i = 0; i < first.count(); ++i) {
+        QCOMPARE(second.itemIcon(i).pixmap(173, 31).toImage(),
+                 second.generateLinePixmap(QString::fromLatin1(builtInLineTypes[i].pattern), 173)
+                     .toImage());
+    }
+    auto *model = qobject_cast<QStandardItemModel *>(first.model());
+    QVERIFY(model);
+    model->item(2)->setEnabled(false);
+    first.setItemData(3, QStringLiteral("mine"));
+    second.resizeNow(174);
+    second.resizeNow(173);
+    QVERIFY(qobject_cast<QStandardItemModel *>(second.model())->item(2)->isEnabled());
+    QCOMPARE(second.itemData(3).toString(), QStringLiteral("ACAD_ISO04W100"));
+}
+
+// What a box is about to use may be dropped by the pictures of another one.
+void tst_LineTypeComboBox::picturesDroppedWithinSignal()
+{
+    ResizedBox box;
+    ResizedBox other;
+    for (int width : {200, 210, 200}) {
+        box.resizeNow(width);
+    }
+    connect(&box, QOverload<int>::of(&QComboBox::currentIndexChanged), this, [&](int index) {
+        if (index == 0) {
+            for (int width = 3000; width <= 3003; ++width) {
+                other.resizeNow(width);
+            }
+        }
+    });
+    box.resizeNow(210);
+    QCOMPARE(box.count(), 15);
+    QCOMPARE(box.iconSize(), QSize(210, 31));
+    QCOMPARE(
+        box.itemIcon(14).pixmap(210, 31).toImage(),
+        box.generateLinePixmap(QString::fromLatin1(builtInLineTypes[14].pattern), 210).toImage());
+}
+
+void tst_LineTypeComboBox::noMoreItemsThanAllowed()
+{
+    ResizedBox box;
+    box.setMaxCount(5);
+    box.resizeNow(120);
+    QCOMPARE(box.count(), 5);
+}
+
+void tst_LineTypeComboBox::foreignModel()
+{
+    ResizedBox box;
+    QStringListModel model;
+    box.setModel(&model);
+    box.resizeNow(120);
+    QCOMPARE(box.count(), 15);
 }
 
 // The pictures are as wide as the box, so a box that asked for room for them would never stop
