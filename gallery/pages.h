@@ -10,5 +10,7 @@ LMGALLERY_PAGE(messagebox)
 LMGALLERY_PAGE(linetypes)
 LMGALLERY_PAGE(delegates)
 LMGALLERY_PAGE(layers)
+LMGALLERY_PAGE(containers)
+LMGALLERY_PAGE(flow)
 
 #undef LMGALLERY_PAGE

@@ -6,14 +6,18 @@
  */
 
 #include <lmwidgets/checkboxheaderview.h>
+#include <lmwidgets/collapsiblegroupbox.h>
+#include <lmwidgets/collapsiblegroupboxbasic.h>
 #include <lmwidgets/customdelegate.h>
 #include <lmwidgets/customlayertablewidget.h>
 #include <lmwidgets/customlayertoolbutton.h>
 #include <lmwidgets/detailbutton.h>
+#include <lmwidgets/flowlayout.h>
 #include <lmwidgets/framelessdialog.h>
 #include <lmwidgets/framelesshelper.h>
 #include <lmwidgets/framelessmessagebox.h>
 #include <lmwidgets/frameline.h>
+#include <lmwidgets/groupboxcollapsebutton.h>
 #include <lmwidgets/kvitemdoublespinboxdelegate.h>
 #include <lmwidgets/kvitemlineeditdelegate.h>
 #include <lmwidgets/linetypecombobox.h>

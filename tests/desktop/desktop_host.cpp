@@ -3,6 +3,7 @@
  * is named on its command line and tells the driver what happens to them, see Reporter.
  */
 
+#include "containersscenario.h"
 #include "layerscenario.h"
 #include "reporter.h"
 
@@ -281,6 +282,7 @@ QHash<QString, std::function<void()>> scenarios()
         {QStringLiteral("box-static"), [] { runBox(askByStaticFunction); }},
         {QStringLiteral("box-alone"),
          [] { QTimer::singleShot(0, [] { askWithStandardButtons(nullptr); }); }},
+        {QStringLiteral("panel"), runPanel},
         {QStringLiteral("layers"), runLayers},
         {QStringLiteral("maximized-first"),
          [] { makeDialogWithTitleButtons(nullptr)->showMaximized(); }},
