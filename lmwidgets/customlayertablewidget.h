@@ -34,7 +34,7 @@ class customLayerToolButton;
  *     layers->item(layers->rowCount() - 1, 0)->setText(layer.name());
  * }
  * connect(layers, &LM::Widgets::CustomLayerTableWidget::signalUpdateModel, drawing,
- * &Drawing::update);
+ *         &Drawing::update);
  * @endcode
  *
  * Rows are known by the number that they had when they were added. A host that removes a row keeps
@@ -103,16 +103,14 @@ public:
      * layer list.
      *
      * The name is drawn by a CustomDelegate, a new one for each row, which serves the whole column
-     * 0. Many rows
-     * added in one go, without the event loop running in between, take time in proportion to their
+     * 0. Many rows added in one go, without the event loop running in between, take time in proportion to their
      * number.
      */
     void addLayerRow();
 
     /**
      * Shows the name, the line style and the line width in @p values. Style and width are looked up
-     * among the item data of their boxes; what is not found selects nothing, and
-     * a box of line styles has its items from the time that it is first shown. A list of any other
+     * among the item data of their boxes; what is not found selects nothing, and a box of line styles has its items from the time that it is first shown. A list of any other
      * length than 3 is ignored, and so is each cell whose widget is not of the panel's type. No
      * signal is emitted, neither by the table nor by the editors.
      */

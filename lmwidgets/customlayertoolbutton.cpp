@@ -1,5 +1,7 @@
 #include <lmwidgets/customlayertoolbutton.h>
 
+#include "toolbuttonrelease_p.h"
+
 #include <lmwidgets/talvostylemanager.h>
 
 #include <QColor>
@@ -119,6 +121,14 @@ bool customLayerToolButton::event(QEvent *event)
         return true;
     }
     return QToolButton::event(event);
+}
+
+void customLayerToolButton::mouseReleaseEvent(QMouseEvent *event)
+{
+    // A host may remove the row, or destroy the table, when it is told of the click.
+    releaseToolButton(
+        this, event, [=] { QAbstractButton::mouseReleaseEvent(event); },
+        [=] { QToolButton::mouseReleaseEvent(event); });
 }
 
 void customLayerToolButton::setColor(const QColor &color)

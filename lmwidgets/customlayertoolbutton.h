@@ -39,14 +39,14 @@ class LMWIDGETS_EXPORT customLayerToolButton : public QToolButton
 public:
     /**
      * Constructs a checked button for the cell at @p row and @p column, which are stored as they
-     * are.
-     * @p parent may be null; otherwise it owns the button.
+     * are. @p parent may be null; otherwise it owns the button.
      */
     explicit customLayerToolButton(int row, int column, QWidget *parent = nullptr);
     ~customLayerToolButton() override;
 
-    /** Returns the row that the button was made for; rows inserted or removed later do not change
-     * it. */
+    /**
+     * Returns the row that the button was made for; rows inserted or removed later do not change it.
+     */
     int row() const;
     /** Returns the column that the button was made for; later columns do not change it. */
     int column() const;
@@ -68,6 +68,8 @@ public:
 
 protected:
     bool event(QEvent *event) override;
+    /** Clicks as a QToolButton does; the click may destroy the button. */
+    void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
     Q_DISABLE_COPY(customLayerToolButton)

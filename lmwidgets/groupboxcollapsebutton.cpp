@@ -1,5 +1,7 @@
 #include <lmwidgets/groupboxcollapsebutton.h>
 
+#include "toolbuttonrelease_p.h"
+
 #include <QMouseEvent>
 
 GroupBoxCollapseButton::GroupBoxCollapseButton(QWidget *parent) : QToolButton(parent) {}
@@ -30,5 +32,8 @@ void GroupBoxCollapseButton::mouseReleaseEvent(QMouseEvent *event)
 {
     m_altDown = event->modifiers() & (Qt::ControlModifier | Qt::AltModifier);
     m_shiftDown = event->modifiers() & Qt::ShiftModifier;
-    QToolButton::mouseReleaseEvent(event);
+    // A listener of the box may destroy the box and this button with it.
+    LM::Widgets::releaseToolButton(
+        this, event, [=] { QAbstractButton::mouseReleaseEvent(event); },
+        [=] { QToolButton::mouseReleaseEvent(event); });
 }

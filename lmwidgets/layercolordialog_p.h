@@ -23,8 +23,7 @@ public:
     /**
      * Lets the user choose a colour in a modal frameless dialog over @p parent. Returns an invalid
      * colour if the dialog is cancelled, closed, or destroyed with its parent. Both dialogs are
-     * gone afterwards;
-     * @p parent may be gone as well.
+     * gone afterwards; @p parent may be gone as well.
      */
     static QColor ask(QWidget *parent);
 

@@ -1,6 +1,7 @@
 #include <lmwidgets/titlebar.h>
 
 #include "titlebar_p.h"
+#include "toolbuttonrelease_p.h"
 
 #include <lmwidgets/talvostylemanager.h>
 
@@ -8,7 +9,6 @@
 #include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QMouseEvent>
 #include <QPixmap>
 #include <QPointer>
 #include <QToolButton>
@@ -35,11 +35,7 @@ const char WindowButtonStyle[] =
     "QToolButton:hover{background-color:#333333;}\n"
     "QToolButton:pressed{background-color:#333333;padding:0px 0px 0px 0px;}";
 
-/**
- * A tool button whose click may destroy it. Up to Qt 5.15 QToolButton writes to itself after the
- * release of the mouse has been turned into a click, and the click of a title button closes
- * windows.
- */
+/** A tool button whose click may destroy it: the click of a title button closes windows. */
 class TitleButton : public QToolButton
 {
 public:
@@ -48,14 +44,9 @@ public:
 protected:
     void mouseReleaseEvent(QMouseEvent *event) override
     {
-        const QPointer<QToolButton> guard(this);
-        QAbstractButton::mouseReleaseEvent(event);
-        if (guard) {
-            // The click is over, so this one only forgets the press; it would ignore the event.
-            const bool accepted = event->isAccepted();
-            QToolButton::mouseReleaseEvent(event);
-            event->setAccepted(accepted);
-        }
+        releaseToolButton(
+            this, event, [=] { QAbstractButton::mouseReleaseEvent(event); },
+            [=] { QToolButton::mouseReleaseEvent(event); });
     }
 };
 
