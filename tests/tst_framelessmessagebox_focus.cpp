@@ -5,6 +5,8 @@
 #include <QScreen>
 #include <QSignalSpy>
 
+#include <memory>
+
 using LM::Widgets::FramelessMessageBox;
 using LM::Widgets::TitleBar;
 using messageboxtest::pushButton;
@@ -144,7 +146,8 @@ void tst_FramelessMessageBoxFocus::closeButtonComesBack()
     QVERIFY(closeButton(&box)->isVisible());
 
     // And goes again with the button that it stood for.
-    box.removeButton(box.button(QMessageBox::Cancel));
+    const std::unique_ptr<QAbstractButton> cancel(box.button(QMessageBox::Cancel));
+    box.removeButton(cancel.get());
     QVERIFY(!closeButton(&box)->isVisible());
     box.hide();
 }
