@@ -171,8 +171,7 @@ public:
         for (std::size_t y = 0; y < dot.size(); ++y) {
             QRgb *target = m_rows[y] + x;
             for (std::size_t column = 0; column < columns; ++column) {
-                // White with its opacity in every channel: the larger number is the more opaque
-                // one.
+                // White with its opacity in every channel: the larger number is more opaque.
                 target[column] = qMax(target[column], dot[y][column]);
             }
         }
@@ -306,23 +305,33 @@ void LineTypeComboBox::updateIcons()
         m_rememberedIndex = currentIndex();
     }
     const unsigned int rebuild = ++m_rebuilds;
-    const int pictureWidth = width();
-    const auto lineTypes = m_lineTypes;
     {
         const QScopedValueRollback<int> running(m_rebuildsRunning, m_rebuildsRunning + 1);
-        clear();
-        for (const auto &lineType : lineTypes) {
-            if (rebuild != m_rebuilds) {
-                return;
-            }
-            const QSize pictureSize = appendItem(lineType.first, lineType.second, pictureWidth);
-            if (rebuild == m_rebuilds) {
-                setIconSize(pictureSize);
-            }
+        refill(rebuild);
+        // A host that is told may as well clear the box or add an item. The items are made once
+        // more then, but not again and again: a slot that always does so would never end.
+        if (rebuild == m_rebuilds && count() != qMin(m_lineTypes.size(), maxCount())) {
+            refill(rebuild);
         }
     }
     if (rebuild == m_rebuilds) {
         setCurrentIndex(qMax(m_rememberedIndex, 0));
+    }
+}
+
+void LineTypeComboBox::refill(unsigned int rebuild)
+{
+    const int pictureWidth = width();
+    const auto lineTypes = m_lineTypes;
+    clear();
+    for (const auto &lineType : lineTypes) {
+        if (rebuild != m_rebuilds) {
+            return;
+        }
+        const QSize pictureSize = appendItem(lineType.first, lineType.second, pictureWidth);
+        if (rebuild == m_rebuilds) {
+            setIconSize(pictureSize);
+        }
     }
 }
 
