@@ -254,13 +254,16 @@ QCache<ItemKey, Item> &cachedItems()
 
 /**
  * Appends a copy of @p prototype to @p box. In a model of its own the box would build the same item
- * bit by bit; the copy shares what is in it.
+ * bit by bit; the copy shares what is in it. QComboBox adds to the top level of such a model even
+ * if it shows the rows below another item, and would never find its items again.
  */
 void append(QComboBox *box, const QStandardItem &prototype)
 {
     auto *model = qobject_cast<QStandardItemModel *>(box->model());
-    if (model && !box->rootModelIndex().isValid() && box->count() < box->maxCount()) {
-        model->appendRow(prototype.clone());
+    if (model && box->count() < box->maxCount()) {
+        const QModelIndex root = box->rootModelIndex();
+        auto *parent = root.isValid() ? model->itemFromIndex(root) : model->invisibleRootItem();
+        parent->appendRow(prototype.clone());
         return;
     }
     box->addItem(qvariant_cast<QIcon>(prototype.data(Qt::DecorationRole)), QString(),
