@@ -32,8 +32,8 @@ void CheckBoxHeaderView::mousePressEvent(QMouseEvent *event)
         return;
     }
     const QPointer<CheckBoxHeaderView> self(this);
-    // Hosts count on the visual index here; it differs from the logical one once sections are moved.
-    // Past the last section there is no section, and -1 as the check column names none.
+    // Hosts count on the visual index; it differs from the logical one once sections are moved.
+    // The -1 past the last section is no section, so a check column of -1 is never pressed.
     const int section = visualIndexAt(event->x());
     if (section >= 0 && section == m_checkColumn) {
         m_checked = !m_checked;

@@ -18,8 +18,10 @@ namespace Widgets {
  * The picture is "qssimage/selected.png" or "qssimage/unselected.png" of the current theme, scaled
  * to the size given at construction and drawn at the place given there, with the check section. The
  * place is in the coordinates of the header: it does not follow the section when columns are moved
- * or resized, and only that section is painted again when the box toggles. Keep the picture inside
- * its section, in a header that does not scroll. An image file that is missing draws nothing.
+ * or resized, a section that is painted later covers it, scrolling shifts what is on the screen
+ * until it is painted anew, and only the check section is painted again when the box toggles. Keep
+ * the picture inside its section, in a header that does not scroll. An image file that is missing
+ * draws nothing.
  *
  * A press of any mouse button anywhere in the section toggles the box; the second press of a double
  * click does not. The host checks or unchecks its rows when it is told.

@@ -16,8 +16,8 @@ namespace Widgets {
  * The cells of column 0 are painted 14 px further right than QStyledItemDelegate paints them and
  * keep their width, so they end 14 px further right as well; background and selection move with the
  * content. Every other column, and the place of an editor in any column, is as with
- * QStyledItemDelegate; a check box in column 0 is clicked where it would be without the indentation.
- * The layer table uses it for the names of layers.
+ * QStyledItemDelegate; a check box in column 0 is clicked where it would be without the
+ * indentation. The layer table uses it for the names of layers.
  *
  * @code
  * table->setItemDelegateForColumn(0, new LM::Widgets::CustomDelegate(table));

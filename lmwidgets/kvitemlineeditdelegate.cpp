@@ -15,8 +15,8 @@ QWidget *KVItemLineEditDelegate::createEditor(QWidget *parent, const QStyleOptio
                                               const QModelIndex &) const
 {
     auto *editor = new QLineEdit(parent);
-    // The validator lives as long as the view's viewport, which hosts may rely on. Only a line edit
-    // that has no parent keeps its validator itself.
+    // The validator lives as long as the view's viewport, not only as long as the editor. Only a
+    // line edit that has no parent keeps its validator itself.
     QObject *validatorParent = parent ? parent : editor;
     editor->setValidator(new QRegExpValidator(m_regExp, validatorParent));
     return editor;

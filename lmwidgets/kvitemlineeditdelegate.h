@@ -35,8 +35,8 @@ public:
 
     /**
      * Returns a new line edit with a validator, both children of @p parent. The validator lives as
-     * long as @p parent, which in a view is the viewport, and not only as long as the line edit: each
-     * edit leaves one behind.
+     * long as @p parent, which in a view is the viewport, and not only as long as the line edit:
+     * each edit leaves one behind.
      */
     QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option,
                           const QModelIndex &index) const override;
@@ -46,7 +46,8 @@ public:
      */
     void setEditorData(QWidget *editor, const QModelIndex &index) const override;
     /**
-     * Writes the text of the line edit @p editor to the cell @p index of @p model; ignores as above.
+     * Writes the text of the line edit @p editor to the cell @p index of @p model; ignores as
+     * above.
      */
     void setModelData(QWidget *editor, QAbstractItemModel *model,
                       const QModelIndex &index) const override;

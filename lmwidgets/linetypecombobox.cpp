@@ -171,8 +171,7 @@ public:
         for (std::size_t y = 0; y < dot.size(); ++y) {
             QRgb *target = m_rows[y] + x;
             for (std::size_t column = 0; column < columns; ++column) {
-                // White with its opacity in every channel: the larger number is the more opaque
-                // one.
+                // White with its opacity in every channel: the larger number is more opaque.
                 target[column] = qMax(target[column], dot[y][column]);
             }
         }
@@ -255,13 +254,16 @@ QCache<ItemKey, Item> &cachedItems()
 
 /**
  * Appends a copy of @p prototype to @p box. In a model of its own the box would build the same item
- * bit by bit; the copy shares what is in it.
+ * bit by bit; the copy shares what is in it. QComboBox adds to the top level of such a model even
+ * if it shows the rows below another item, and would never find its items again.
  */
 void append(QComboBox *box, const QStandardItem &prototype)
 {
     auto *model = qobject_cast<QStandardItemModel *>(box->model());
-    if (model && !box->rootModelIndex().isValid() && box->count() < box->maxCount()) {
-        model->appendRow(prototype.clone());
+    if (model && box->count() < box->maxCount()) {
+        const QModelIndex root = box->rootModelIndex();
+        auto *parent = root.isValid() ? model->itemFromIndex(root) : model->invisibleRootItem();
+        parent->appendRow(prototype.clone());
         return;
     }
     box->addItem(qvariant_cast<QIcon>(prototype.data(Qt::DecorationRole)), QString(),
@@ -306,23 +308,33 @@ void LineTypeComboBox::updateIcons()
         m_rememberedIndex = currentIndex();
     }
     const unsigned int rebuild = ++m_rebuilds;
-    const int pictureWidth = width();
-    const auto lineTypes = m_lineTypes;
     {
         const QScopedValueRollback<int> running(m_rebuildsRunning, m_rebuildsRunning + 1);
-        clear();
-        for (const auto &lineType : lineTypes) {
-            if (rebuild != m_rebuilds) {
-                return;
-            }
-            const QSize pictureSize = appendItem(lineType.first, lineType.second, pictureWidth);
-            if (rebuild == m_rebuilds) {
-                setIconSize(pictureSize);
-            }
+        refill(rebuild);
+        // A host that is told may as well clear the box or add an item. The items are made once
+        // more then, but not again and again: a slot that always does so would never end.
+        if (rebuild == m_rebuilds && count() != qMin(m_lineTypes.size(), maxCount())) {
+            refill(rebuild);
         }
     }
     if (rebuild == m_rebuilds) {
         setCurrentIndex(qMax(m_rememberedIndex, 0));
+    }
+}
+
+void LineTypeComboBox::refill(unsigned int rebuild)
+{
+    const int pictureWidth = width();
+    const auto lineTypes = m_lineTypes;
+    clear();
+    for (const auto &lineType : lineTypes) {
+        if (rebuild != m_rebuilds) {
+            return;
+        }
+        const QSize pictureSize = appendItem(lineType.first, lineType.second, pictureWidth);
+        if (rebuild == m_rebuilds) {
+            setIconSize(pictureSize);
+        }
     }
 }
 

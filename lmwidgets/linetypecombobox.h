@@ -24,8 +24,8 @@ namespace Widgets {
  * theme: the box belongs on a dark background.
  *
  * A pattern is either the word "CONTINUOUS" or a list of whole numbers with commas between them,
- * each a length in px: a positive number is a dash, a negative number a gap, and 0 a dot. Dashes have
- * square ends that reach 1 px further on either side, so a gap of 3 px shows as 1 px.
+ * each a length in px: a positive number is a dash, a negative number a gap, and 0 a dot. Dashes
+ * have square ends that reach 1 px further on either side, so a gap of 3 px shows as 1 px.
  *
  * @code
  * auto *box = new LM::Widgets::LineTypeComboBox(this);
@@ -35,12 +35,14 @@ namespace Widgets {
  * @endcode
  *
  * The items are made on every resize and by updateIcons() and addLineType(); before the first of
- * these there are none. currentIndexChanged() is emitted meanwhile: -1 when the old items go, if one
- * of them was current, 0 when the first new item arrives, and then the former index where that was
- * another one. Block the signals, or compare the name, where only the user's choice matters. A slot
- * that changes the items at that moment disturbs the order of what follows, and one that wants to be
- * rid of the box calls deleteLater(). Items that the host adds are gone after the next resize. Boxes
- * of one width share their pictures.
+ * these there are none. currentIndexChanged() is emitted meanwhile: -1 when the old items go, if
+ * one of them was current, 0 when the first new item arrives, and then the former index where that
+ * was another one. Block the signals, or compare the name, where only the user's choice matters. If
+ * a slot clears the box or adds items at that moment, the items are made, and reported, once more;
+ * a slot that wants to be rid of the box calls deleteLater(). Items that the host adds are gone
+ * after the next resize.
+ *
+ * Boxes of one width share their pictures: the pixmaps of a line type have equal cache keys.
  */
 class LMWIDGETS_EXPORT LineTypeComboBox : public QComboBox
 {
@@ -81,10 +83,14 @@ public:
 
     /**
      * Returns the width of a stock combo box without items under the same sizeAdjustPolicy() and
-     * minimumContentsLength(), however wide the pictures are, and the height that QComboBox asks for.
+     * minimumContentsLength(), however wide the pictures are, and the height that QComboBox asks
+     * for.
      */
     QSize sizeHint() const override;
-    /** Returns the same width as sizeHint(), and the height that QComboBox asks for at least. */
+    /**
+     * Returns the least width of such a stock combo box without items, and the least height that
+     * QComboBox asks for.
+     */
     QSize minimumSizeHint() const override;
 
 protected:
@@ -94,6 +100,7 @@ protected:
 private:
     Q_DISABLE_COPY(LineTypeComboBox)
 
+    void refill(unsigned int rebuild);
     QSize appendItem(const QString &name, const QString &pattern, int width);
 
     QMap<QString, QString> m_extraLineTypes;

@@ -104,6 +104,7 @@ private Q_SLOTS:
     void everyButtonCounts();
     void clickedBeforeRelease();
     void clickableReportsTwice();
+    void sectionsChangedWithinSignal();
     void doubleClick();
     void movedSections();
     void hiddenSections();
@@ -111,6 +112,7 @@ private Q_SLOTS:
     void scrolledSections();
     void notOffsetBySection();
     void scaledIntoSize();
+    void smoothWhenScaled();
     void emptySizeDrawsNothing();
     void missingPicturesDrawNothing();
     void followsTheme();
@@ -160,11 +162,12 @@ void tst_CheckBoxHeaderView::setCheckStateAtNextPaint()
     {
     public:
         mutable int paints = 0;
+        mutable int paintsOfOthers = 0;
 
     protected:
         void paintSection(QPainter *painter, const QRect &rect, int index) const override
         {
-            paints += index == 1;
+            ++(index == 1 ? paints : paintsOfOthers);
             Header::paintSection(painter, rect, index);
         }
     };
@@ -184,13 +187,15 @@ void tst_CheckBoxHeaderView::setCheckStateAtNextPaint()
     header.setCheckState(true);
     QCOMPARE(header.section(1), checked);
 
-    // The press flips what was set, and paints at once.
+    // The press flips what was set, and paints at once, the section of the box alone.
     header.setCheckState(false);
     header.paints = 0;
+    header.paintsOfOthers = 0;
     header.press(90);
     QCOMPARE(changed.count(), 1);
     QCOMPARE(changed.at(0).at(0).toBool(), true);
     QTRY_VERIFY(header.paints > 0);
+    QCOMPARE(header.paintsOfOthers, 0);
 }
 
 void tst_CheckBoxHeaderView::otherSectionKeepsState()
@@ -295,12 +300,34 @@ void tst_CheckBoxHeaderView::clickableReportsTwice()
     QSignalSpy changed(&header, &CheckBoxHeaderView::signalCheckStateChanged);
     QSignalSpy clicked(&header, &QHeaderView::sectionClicked);
     QVERIFY(!header.sectionsClickable());
+    header.moveSection(1, 3);
     header.press(90);
     QCOMPARE(clicked.count(), 1);
+    QCOMPARE(clicked.at(0).at(0).toInt(), 1);
     header.setSectionsClickable(true);
     header.press(90);
     QCOMPARE(clicked.count(), 3);
+    QCOMPARE(clicked.at(1).at(0).toInt(), 1);
+    QCOMPARE(clicked.at(2).at(0).toInt(), 2);
     QCOMPARE(changed.count(), 2);
+
+    // Past the last section only the press reports.
+    clicked.clear();
+    header.press(columns * sectionWidth + 20);
+    QCOMPARE(clicked.count(), 1);
+    QCOMPARE(clicked.at(0).at(0).toInt(), -1);
+}
+
+// A slot that is told of the toggle may lay the sections out anew; the click is looked up after it.
+void tst_CheckBoxHeaderView::sectionsChangedWithinSignal()
+{
+    Header header;
+    QSignalSpy clicked(&header, &QHeaderView::sectionClicked);
+    connect(&header, &CheckBoxHeaderView::signalCheckStateChanged, this,
+            [&] { header.resizeSection(0, 20); });
+    header.press(90);
+    QCOMPARE(clicked.count(), 1);
+    QCOMPARE(clicked.at(0).at(0).toInt(), 2);
 }
 
 // The second press of a double click is an event of its own kind, which toggles nothing.
@@ -387,6 +414,20 @@ void tst_CheckBoxHeaderView::scrolledSections()
     QCOMPARE(changed.count(), 1);
     header.press(90);
     QCOMPARE(changed.count(), 1);
+
+    // The place of the picture is that of the header: there the section behind covers it now.
+    Header plain(-1);
+    plain.setOffset(60);
+    QCOMPARE(header.picture(), plain.picture());
+
+    const QRect box(5, 4, 16, 16);
+    Header still(1, box);
+    still.setOffset(60);
+    QImage expected = plain.picture();
+    QPainter painter(&expected);
+    painter.drawPixmap(box, themePicture("selected"));
+    painter.end();
+    QCOMPARE(still.picture(), expected);
 }
 
 void tst_CheckBoxHeaderView::notOffsetBySection()
@@ -409,6 +450,22 @@ void tst_CheckBoxHeaderView::scaledIntoSize()
         header.setCheckState(false);
         QCOMPARE(header.section(1), expectedSection(1, rect, "unselected", box));
     }
+}
+
+// In its own size a picture is shown pixel by pixel, in any other one smoothly.
+void tst_CheckBoxHeaderView::smoothWhenScaled()
+{
+    const QPixmap picture = themePicture("selected");
+    const auto roughly = [&picture](const QRect &box) {
+        QImage image = Header(-1).section(1);
+        QPainter painter(&image);
+        painter.drawPixmap(box, picture);
+        return image;
+    };
+    const QRect natural(QPoint(70, 4), picture.size());
+    QCOMPARE(Header(1, natural).section(1), roughly(natural));
+    const QRect larger(QPoint(70, 4), picture.size() * 3 / 2);
+    QVERIFY(Header(1, larger).section(1) != roughly(larger));
 }
 
 void tst_CheckBoxHeaderView::emptySizeDrawsNothing()
@@ -470,6 +527,7 @@ void tst_CheckBoxHeaderView::painterIsRestored()
         QCOMPARE(painter.pen().color(), QColor(Qt::red));
         QCOMPARE(painter.brush().color(), QColor(Qt::blue));
         QCOMPARE(painter.opacity(), 0.5);
+        QVERIFY(!painter.testRenderHint(QPainter::SmoothPixmapTransform));
     }
 }
 

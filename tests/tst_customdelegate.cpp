@@ -58,6 +58,8 @@ private Q_SLOTS:
     void firstColumnIsIndented_data();
     void firstColumnIsIndented();
     void otherColumnsAreNot();
+    void childRowsAreIndented();
+    void subclassFillsTheOption();
     void optionOfCallerIsKept();
     void badArguments();
     void inTableView();
@@ -92,8 +94,7 @@ void tst_CustomDelegate::firstColumnIsIndented()
         QVERIFY(indented != painted(plain, index, cell, QStyle::State(state)));
         QVERIFY(indented != painted(plain, index, cell.translated(13, 0), QStyle::State(state)));
     }
-    // The cell keeps its width: the 14 px at its left are left alone, and it ends 14 px further
-    // right.
+    // The cell keeps its width: the 14 px at its left are left alone, and it ends 14 px later.
     const QImage image = painted(ours, model->index(0, 0), cell);
     const QRgb grey = QColor(Qt::gray).rgba();
     QCOMPARE(image.pixel(10, 25), grey);
@@ -112,6 +113,49 @@ void tst_CustomDelegate::otherColumnsAreNot()
         QCOMPARE(painted(CustomDelegate(), index, cell),
                  painted(QStyledItemDelegate(), index, cell));
     }
+}
+
+void tst_CustomDelegate::childRowsAreIndented()
+{
+    QStandardItemModel model;
+    auto *parent = new QStandardItem(QStringLiteral("group"));
+    parent->appendRow({new QStandardItem(QStringLiteral("layer")),
+                       new QStandardItem(QStringLiteral("other column"))});
+    model.appendRow(parent);
+    const QRect cell(10, 10, 120, 30);
+    const CustomDelegate ours;
+    const QStyledItemDelegate plain;
+    const QModelIndex child = parent->child(0, 0)->index();
+    QCOMPARE(painted(ours, child, cell), painted(plain, child, cell.translated(indentation, 0)));
+    QVERIFY(painted(ours, child, cell) != painted(plain, child, cell));
+    const QModelIndex other = parent->child(0, 1)->index();
+    QCOMPARE(painted(ours, other, cell), painted(plain, other, cell));
+}
+
+// The option is filled for the cell before it is moved, and once more by the painting itself; a
+// delegate that derives from this one sees the cell where it is, and where it is drawn.
+void tst_CustomDelegate::subclassFillsTheOption()
+{
+    class Recording : public CustomDelegate
+    {
+    public:
+        mutable QVector<QRect> seen;
+
+    protected:
+        void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
+        {
+            seen += option->rect;
+            CustomDelegate::initStyleOption(option, index);
+        }
+    };
+    QScopedPointer<QStandardItemModel> model(makeModel(nullptr));
+    const QRect cell(10, 10, 120, 30);
+    Recording delegate;
+    painted(delegate, model->index(0, 0), cell);
+    QCOMPARE(delegate.seen, QVector<QRect>({cell, cell.translated(indentation, 0)}));
+    delegate.seen.clear();
+    painted(delegate, model->index(0, 1), cell);
+    QCOMPARE(delegate.seen, QVector<QRect>({cell}));
 }
 
 void tst_CustomDelegate::optionOfCallerIsKept()

@@ -2,11 +2,13 @@
 
 #include <lmwidgets/kvitemdoublespinboxdelegate.h>
 
+#include <QAbstractListModel>
 #include <QDoubleSpinBox>
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QStandardItemModel>
 #include <QTableView>
+#include <QVBoxLayout>
 
 #include <cmath>
 #include <limits>
@@ -54,6 +56,31 @@ public:
 
 namespace {
 
+/** A cell that is another text to edit than to show, and notes the roles in which it is written. */
+class RolesModel : public QAbstractListModel
+{
+public:
+    explicit RolesModel(const QString &editText) : m_editText(editText) {}
+
+    int rowCount(const QModelIndex &) const override { return 1; }
+
+    QVariant data(const QModelIndex &, int role) const override
+    {
+        return role == Qt::EditRole ? m_editText : QStringLiteral("9");
+    }
+
+    bool setData(const QModelIndex &, const QVariant &value, int role) override
+    {
+        written += qMakePair(role, value.toString());
+        return true;
+    }
+
+    QVector<QPair<int, QString>> written;
+
+private:
+    QString m_editText;
+};
+
 void clearText(QWidget *editor)
 {
     QTest::keyClick(editor, Qt::Key_A, Qt::ControlModifier);
@@ -75,8 +102,10 @@ class tst_KvItemDoubleSpinboxDelegate : public lmtest::TestCase
 private Q_SLOTS:
     void emptyCellEnabled_data();
     void emptyCellEnabled();
+    void persistentEditorStaysEmpty_data();
     void persistentEditorStaysEmpty();
     void typedTextIsInterpreted();
+    void readsAndWritesEditRole();
     void emptyCellDisabled();
     void threeDecimals();
     void modelGetsText();
@@ -131,24 +160,66 @@ void tst_KvItemDoubleSpinboxDelegate::emptyCellEnabled()
     QVERIFY2(!data.isNull(), "a database would take a null text for NULL");
 }
 
-// Such an editor stays open and is written again and again.
+void tst_KvItemDoubleSpinboxDelegate::persistentEditorStaysEmpty_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::newRow("Return") << int(Qt::Key_Return);
+    QTest::newRow("Enter") << int(Qt::Key_Enter);
+    QTest::newRow("Tab") << int(Qt::Key_Tab);
+    QTest::newRow("loses the focus") << 0;
+}
+
+// Such an editor stays open, and is written again each time that it loses the focus.
 void tst_KvItemDoubleSpinboxDelegate::persistentEditorStaysEmpty()
 {
+    QFETCH(int, key);
+    QWidget window;
+    auto *layout = new QVBoxLayout(&window);
     EditedView view;
+    QLineEdit other;
+    layout->addWidget(&view);
+    layout->addWidget(&other);
+    window.show();
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
     view.delegate.setEnableEmptyStr(true);
-    view.cells.setData(view.cell(), QString());
+    view.cells.setData(view.cell(), QLatin1String(""));
+    QSignalSpy committed(&view.delegate, &QAbstractItemDelegate::commitData);
+    QStringList written;
+    connect(&view.cells, &QAbstractItemModel::dataChanged, this, [&] { written += view.text(); });
     view.openPersistentEditor(view.cell());
     QDoubleSpinBox *editor = view.editor();
     QVERIFY(editor);
     editor->setFocus();
+    QTRY_VERIFY(editor->hasFocus());
     QTest::keyClick(editor, Qt::Key_5);
     QTest::keyClick(editor, Qt::Key_Backspace);
     QCOMPARE(editor->text(), QString());
-    view.delegate.setModelData(editor, &view.cells, view.cell());
-    QCOMPARE(view.text(), QString());
+    if (key) {
+        QTest::keyClick(editor, Qt::Key(key));
+        QCoreApplication::processEvents();
+        editor->setFocus();
+        QTRY_VERIFY(editor->hasFocus());
+    }
+    other.setFocus();
+    QTRY_VERIFY(other.hasFocus());
+    QCoreApplication::processEvents();
+    QVERIFY(committed.count() > 0);
+    written.removeAll(QString());
+    QCOMPARE(written, QStringList());
     QCOMPARE(editor->text(), QString());
-    view.delegate.setModelData(editor, &view.cells, view.cell());
-    QCOMPARE(view.text(), QString());
+}
+
+void tst_KvItemDoubleSpinboxDelegate::readsAndWritesEditRole()
+{
+    RolesModel model(QStringLiteral("7.125"));
+    const kvItemDoubleSpinboxDelegate delegate;
+    QDoubleSpinBox spinBox;
+    spinBox.setDecimals(3);
+    delegate.setEditorData(&spinBox, model.index(0));
+    QCOMPARE(spinBox.value(), 7.125);
+    delegate.setModelData(&spinBox, &model, model.index(0));
+    QCOMPARE(model.written, (QVector<QPair<int, QString>>{{Qt::EditRole, "7.125"}}));
 }
 
 // What is typed and not yet taken over by the spin box is written all the same.

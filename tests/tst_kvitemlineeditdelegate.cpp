@@ -2,11 +2,13 @@
 
 #include <lmwidgets/kvitemlineeditdelegate.h>
 
+#include <QAbstractListModel>
 #include <QLineEdit>
 #include <QRegExpValidator>
 #include <QSpinBox>
 #include <QStandardItemModel>
 #include <QTableView>
+#include <QVBoxLayout>
 
 /** A view with one row whose cells take up to three capital letters and a digit. */
 class NamesView : public QTableView
@@ -48,6 +50,35 @@ public:
     KVItemLineEditDelegate delegate;
 };
 
+namespace {
+
+/** A cell that is another text to edit than to show, and notes the roles in which it is written. */
+class RolesModel : public QAbstractListModel
+{
+public:
+    explicit RolesModel(const QString &editText) : m_editText(editText) {}
+
+    int rowCount(const QModelIndex &) const override { return 1; }
+
+    QVariant data(const QModelIndex &, int role) const override
+    {
+        return role == Qt::EditRole ? m_editText : QStringLiteral("9");
+    }
+
+    bool setData(const QModelIndex &, const QVariant &value, int role) override
+    {
+        written += qMakePair(role, value.toString());
+        return true;
+    }
+
+    QVector<QPair<int, QString>> written;
+
+private:
+    QString m_editText;
+};
+
+} // namespace
+
 class tst_KVItemLineEditDelegate : public lmtest::TestCase
 {
     Q_OBJECT
@@ -57,12 +88,15 @@ private Q_SLOTS:
     void acceptedTextReachesModel_data();
     void acceptedTextReachesModel();
     void incompleteTextStaysOpen();
+    void incompleteTextLosesFocus();
+    void incompleteTextOfOtherCell();
     void escapeReverts();
     void editorSetup();
     void validatorLivesWithViewport();
     void editorData_data();
     void editorData();
     void modelData();
+    void readsAndWritesEditRole();
     void expressionsOfAnyKind_data();
     void expressionsOfAnyKind();
     void geometry();
@@ -124,6 +158,42 @@ void tst_KVItemLineEditDelegate::incompleteTextStaysOpen()
     QTest::keyClicks(editor, QStringLiteral("5"));
     QTest::keyClick(editor, Qt::Key_Return);
     QTRY_COMPARE(view.text(), QStringLiteral("AB5"));
+}
+
+void tst_KVItemLineEditDelegate::incompleteTextLosesFocus()
+{
+    for (bool complete : {false, true}) {
+        QWidget window;
+        auto *layout = new QVBoxLayout(&window);
+        NamesView view;
+        QLineEdit other;
+        layout->addWidget(&view);
+        layout->addWidget(&other);
+        window.show();
+        window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        QPointer<QLineEdit> editor = view.open(QStringLiteral("A1"));
+        QVERIFY(editor);
+        QTRY_VERIFY(editor->hasFocus());
+        QTest::keyClick(editor, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClicks(editor, complete ? QStringLiteral("XY2") : QStringLiteral("XY"));
+        other.setFocus();
+        QTRY_VERIFY(!editor);
+        QCOMPARE(view.text(), complete ? QStringLiteral("XY2") : QStringLiteral("A1"));
+    }
+}
+
+// The view that is sent to another cell writes the text as it stands, and asks no validator.
+void tst_KVItemLineEditDelegate::incompleteTextOfOtherCell()
+{
+    NamesView view;
+    QPointer<QLineEdit> editor = view.open(QStringLiteral("A1"));
+    QVERIFY(editor);
+    QTest::keyClick(editor, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(editor, QStringLiteral("X"));
+    view.setCurrentIndex(view.cell(1));
+    QTRY_VERIFY(!editor);
+    QCOMPARE(view.text(), QStringLiteral("X"));
 }
 
 void tst_KVItemLineEditDelegate::escapeReverts()
@@ -201,6 +271,17 @@ void tst_KVItemLineEditDelegate::modelData()
     editor.clear();
     view.delegate.setModelData(&editor, &view.cells, view.cell(1));
     QCOMPARE(view.cells.data(view.cell(1), Qt::EditRole).toString(), QString());
+}
+
+void tst_KVItemLineEditDelegate::readsAndWritesEditRole()
+{
+    RolesModel model(QStringLiteral("AB7"));
+    const KVItemLineEditDelegate delegate{QRegExp(QStringLiteral(".*"))};
+    QLineEdit lineEdit;
+    delegate.setEditorData(&lineEdit, model.index(0));
+    QCOMPARE(lineEdit.text(), QStringLiteral("AB7"));
+    delegate.setModelData(&lineEdit, &model, model.index(0));
+    QCOMPARE(model.written, (QVector<QPair<int, QString>>{{Qt::EditRole, "AB7"}}));
 }
 
 void tst_KVItemLineEditDelegate::expressionsOfAnyKind_data()

@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <QRandomGenerator>
 #include <QSignalSpy>
+#include <QSortFilterProxyModel>
 #include <QStandardItemModel>
 #include <QStringListModel>
 
@@ -41,6 +42,7 @@ const struct
     {"ACAD_ISO15W100", "12,-3,12,-3,0,-3,0,-3,0,-3"},
 };
 const int lineTypeCount = int(sizeof builtInLineTypes / sizeof builtInLineTypes[0]);
+static_assert(lineTypeCount == 15, "the number of line types that hosts count on");
 
 /** A combo box whose resizes arrive at once, also while it is not shown. */
 class ResizedBox : public LineTypeComboBox
@@ -67,8 +69,7 @@ QImage picture(const QString &pattern, int width)
     return pixmap.toImage().convertToFormat(QImage::Format_ARGB32_Premultiplied);
 }
 
-/** The alpha values of the row @p y, one character per column: '#' full, '+' partly, '.' nothing.
- */
+/** The alpha values of the row @p y, a character per column: '#' full, '+' partly, '.' nothing. */
 QByteArray row(const QImage &image, int y)
 {
     QByteArray text;
@@ -101,8 +102,7 @@ struct Mark
     bool dot;
 };
 
-/** The marks of @p numbers up to @p width, kept simple: no limit of any number type matters here.
- */
+/** The marks of @p numbers up to @p width, kept simple: no limit of a number type matters here. */
 QVector<Mark> marksOf(const QVector<double> &numbers, int width)
 {
     QVector<Mark> marks;
@@ -139,6 +139,30 @@ QImage paintedMarks(const QVector<Mark> &marks, int width)
         }
     }
     return image;
+}
+
+QStringList builtInNames()
+{
+    QStringList names;
+    for (const auto &lineType : builtInLineTypes) {
+        names += QString::fromLatin1(lineType.name);
+    }
+    return names;
+}
+
+QStringList namesOf(const QComboBox &box)
+{
+    QStringList names;
+    for (int i = 0; i < box.count(); ++i) {
+        names += box.itemData(i).toString();
+    }
+    return names;
+}
+
+/** Tells the pixmap of the item @p index from all others; copies of one pixmap have the same. */
+qint64 pixmapKey(const QComboBox &box, int index)
+{
+    return box.itemIcon(index).pixmap(box.iconSize()).cacheKey();
 }
 
 /** The largest difference of a channel between two pictures of one size. */
@@ -184,7 +208,9 @@ private Q_SLOTS:
     void iconSize();
     void widthZero();
     void resizedWithinSignal();
-    void clearedWithinSignal();
+    void selectionChangedWithinSignal();
+    void itemsChangedWithinSignal();
+    void alwaysClearedWithinSignal();
     void continuous();
     void continuousIsExact();
     void wholePicture_data();
@@ -204,9 +230,12 @@ private Q_SLOTS:
     void hintAsWithoutItems_data();
     void hintAsWithoutItems();
     void boxesShareThePicturesAlone();
+    void oldPicturesAreLetGo();
     void picturesDroppedWithinSignal();
     void noMoreItemsThanAllowed();
     void foreignModel();
+    void itemsBelowRoot();
+    void modelWithoutRoom();
     void windowDoesNotGrow();
     void keysAndWheel();
     void paintsCurrentPicture();
@@ -226,7 +255,6 @@ void tst_LineTypeComboBox::itemsAfterResize()
 {
     ResizedBox box;
     box.resizeNow(200);
-    QCOMPARE(box.count(), 15);
     QCOMPARE(box.count(), lineTypeCount);
     for (int i = 0; i < lineTypeCount; ++i) {
         QCOMPARE(box.itemText(i), QString());
@@ -284,8 +312,7 @@ void tst_LineTypeComboBox::dashesClipped()
 {
     const QByteArray twenty = dashRow({{0, 12}, {15, 20}}, 20);
     QCOMPARE(row(picture(QStringLiteral("12,-3"), 20), 15), twenty);
-    // At 15 the next dash would start where the picture ends, and is not drawn, not even its end
-    // piece.
+    // At 15 the next dash would start where the picture ends: it is not drawn, nor its end piece.
     QCOMPARE(row(picture(QStringLiteral("12,-3"), 15), 15), QByteArray("#############.."));
     QCOMPARE(row(picture(QStringLiteral("12,-3"), 16), 15), QByteArray("#############.##"));
     QCOMPARE(row(picture(QStringLiteral("12,-3"), 12), 15), QByteArray(12, '#'));
@@ -529,10 +556,11 @@ void tst_LineTypeComboBox::resizedWithinSignal()
     }
 }
 
-void tst_LineTypeComboBox::clearedWithinSignal()
+void tst_LineTypeComboBox::selectionChangedWithinSignal()
 {
     ResizedBox box;
     box.resizeNow(100);
+    box.setCurrentIndex(5);
     connect(&box, QOverload<int>::of(&QComboBox::currentIndexChanged), this, [&](int index) {
         if (index == 0) {
             box.populateComboBox();
@@ -540,25 +568,54 @@ void tst_LineTypeComboBox::clearedWithinSignal()
         }
     });
     box.resizeNow(120);
-    QCOMPARE(box.count(), 15);
-    QCOMPARE(box.itemData(14).toString(), QStringLiteral("ACAD_ISO15W100"));
-    box.disconnect(this);
+    QCOMPARE(namesOf(box), builtInNames());
+    QCOMPARE(box.currentIndex(), 5);
+}
 
-    // A slot that clears the box in the middle gets the items that come after it, and the next
-    // resize puts all of them back.
-    bool cleared = false;
-    connect(&box, QOverload<int>::of(&QComboBox::currentIndexChanged), this, [&](int index) {
-        if (index == 0 && !cleared) {
-            cleared = true;
-            box.clear();
+// A slot that takes the items away or adds some of its own does so once; the box makes them anew.
+void tst_LineTypeComboBox::itemsChangedWithinSignal()
+{
+    for (bool clears : {true, false}) {
+        for (int trigger : {-1, 0}) {
+            ResizedBox box;
+            box.resizeNow(100);
+            box.setCurrentIndex(5);
+            bool changed = false;
+            connect(&box, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+                    [&](int index) {
+                        if (index == trigger && !changed) {
+                            changed = true;
+                            clears ? box.clear() : box.addItem(QStringLiteral("one more"));
+                        }
+                    });
+            box.resizeNow(140);
+            QVERIFY(changed);
+            QCOMPARE(namesOf(box), builtInNames());
+            QCOMPARE(box.currentIndex(), 5);
+            QCOMPARE(box.iconSize(), QSize(140, 31));
         }
-    });
+    }
+}
+
+// The box does not fight with a slot that never gives up, and recovers when it is gone.
+void tst_LineTypeComboBox::alwaysClearedWithinSignal()
+{
+    ResizedBox box;
+    box.resizeNow(100);
+    box.setCurrentIndex(5);
+    const auto connection =
+        connect(&box, QOverload<int>::of(&QComboBox::currentIndexChanged), this, [&](int index) {
+            if (index == 0) {
+                box.clear();
+            }
+        });
     box.resizeNow(140);
-    QVERIFY(cleared);
-    QVERIFY(box.count() < 15);
+    QCOMPARE(box.count(), 0);
+    QCOMPARE(box.currentIndex(), -1);
+    disconnect(connection);
     box.resizeNow(160);
-    QCOMPARE(box.count(), 15);
-    QCOMPARE(box.iconSize(), QSize(160, 31));
+    QCOMPARE(namesOf(box), builtInNames());
+    QCOMPARE(box.currentIndex(), 0);
 }
 
 void tst_LineTypeComboBox::continuous()
@@ -817,6 +874,7 @@ void tst_LineTypeComboBox::hintAsWithoutItems_data()
         };
         row("contents", QComboBox::AdjustToContents);
         row("first show", QComboBox::AdjustToContentsOnFirstShow);
+        row("length", QComboBox::AdjustToContentsOnFirstShow + 1); // deprecated, yet in use
         row("length and icon", QComboBox::AdjustToMinimumContentsLengthWithIcon);
     }
 }
@@ -847,19 +905,38 @@ void tst_LineTypeComboBox::boxesShareThePicturesAlone()
     ResizedBox second;
     first.resizeNow(173);
     second.resizeNow(173);
-    for (int i = 0; i < first.count(); ++i) {
-        QCOMPARE(second.itemIcon(i).pixmap(173, 31).toImage(),
-                 second.generateLinePixmap(QString::fromLatin1(builtInLineTypes[i].pattern), 173)
-                     .toImage());
+    for (int i = 0; i < lineTypeCount; ++i) {
+        QCOMPARE(pixmapKey(second, i), pixmapKey(first, i));
+        QVERIFY(i == 0 || pixmapKey(first, i) != pixmapKey(first, i - 1));
     }
     auto *model = qobject_cast<QStandardItemModel *>(first.model());
     QVERIFY(model);
     model->item(2)->setEnabled(false);
     first.setItemData(3, QStringLiteral("mine"));
+    first.setItemIcon(4, QIcon());
     second.resizeNow(174);
+    QVERIFY(pixmapKey(second, 1) != pixmapKey(first, 1));
     second.resizeNow(173);
     QVERIFY(qobject_cast<QStandardItemModel *>(second.model())->item(2)->isEnabled());
-    QCOMPARE(second.itemData(3).toString(), QStringLiteral("ACAD_ISO04W100"));
+    QCOMPARE(namesOf(second), builtInNames());
+    QVERIFY(!second.itemIcon(4).isNull());
+    QCOMPARE(pixmapKey(second, 1), pixmapKey(first, 1));
+}
+
+// The pictures of former widths are kept for a while, but not all of them for ever.
+void tst_LineTypeComboBox::oldPicturesAreLetGo()
+{
+    ResizedBox box;
+    box.resizeNow(180);
+    const qint64 key = pixmapKey(box, 3);
+    box.resizeNow(181);
+    box.resizeNow(180);
+    QCOMPARE(pixmapKey(box, 3), key);
+    for (int width = 3100; width < 3110; ++width) {
+        box.resizeNow(width);
+    }
+    box.resizeNow(180);
+    QVERIFY(pixmapKey(box, 3) != key);
 }
 
 // What a box is about to use may be dropped by the pictures of another one.
@@ -889,17 +966,68 @@ void tst_LineTypeComboBox::noMoreItemsThanAllowed()
 {
     ResizedBox box;
     box.setMaxCount(5);
+    QSignalSpy spy(&box, QOverload<int>::of(&QComboBox::currentIndexChanged));
     box.resizeNow(120);
-    QCOMPARE(box.count(), 5);
+    QCOMPARE(namesOf(box), builtInNames().mid(0, 5));
+    QCOMPARE(spy.count(), 1);
+    box.setMaxCount(15);
+    box.resizeNow(121);
+    QCOMPARE(namesOf(box), builtInNames());
 }
 
 void tst_LineTypeComboBox::foreignModel()
 {
     ResizedBox box;
-    QStringListModel model;
-    box.setModel(&model);
+    QStringListModel texts;
+    box.setModel(&texts);
     box.resizeNow(120);
     QCOMPARE(box.count(), 15);
+
+    QStandardItemModel source;
+    source.setColumnCount(1);
+    QSortFilterProxyModel proxy;
+    proxy.setSourceModel(&source);
+    box.setModel(&proxy);
+    box.resizeNow(121);
+    QCOMPARE(namesOf(box), builtInNames());
+    QCOMPARE(source.rowCount(), 15);
+    QCOMPARE(box.itemIcon(14).availableSizes(), QList<QSize>({QSize(121, 31)}));
+}
+
+// Below a root of the host's own, the items go below that root.
+void tst_LineTypeComboBox::itemsBelowRoot()
+{
+    QStandardItemModel model;
+    model.appendRow(new QStandardItem(QStringLiteral("line types")));
+    model.item(0)->setColumnCount(1);
+    ResizedBox box;
+    box.setModel(&model);
+    box.setRootModelIndex(model.index(0, 0));
+    box.resizeNow(120);
+    QCOMPARE(namesOf(box), builtInNames());
+    QCOMPARE(model.rowCount(), 1);
+    QCOMPARE(model.item(0)->rowCount(), 15);
+}
+
+// A model that takes no items leaves the box empty, and usable with another model.
+void tst_LineTypeComboBox::modelWithoutRoom()
+{
+    class Locked : public QStringListModel
+    {
+    public:
+        bool insertRows(int, int, const QModelIndex &) override { return false; }
+    };
+    ResizedBox box;
+    QScopedPointer<Locked> locked(new Locked);
+    box.setModel(locked.data());
+    box.resizeNow(120);
+    QCOMPARE(box.count(), 0);
+    QCOMPARE(box.currentIndex(), -1);
+    QStandardItemModel model;
+    box.setModel(&model);
+    locked.reset();
+    box.resizeNow(121);
+    QCOMPARE(namesOf(box), builtInNames());
 }
 
 // The pictures are as wide as the box, so a box that asked for room for them would never stop
