@@ -23,6 +23,7 @@
 #include <lmwidgets/linetypecombobox.h>
 #include <lmwidgets/lmwidgets_global.h>
 #include <lmwidgets/qmessageboxdetailstext.h>
+#include <lmwidgets/talvobasicutil.h>
 #include <lmwidgets/talvodialogbase.h>
 #include <lmwidgets/talvostylemanager.h>
 #include <lmwidgets/titlebar.h>
