@@ -19,6 +19,9 @@ QString decoded(const QByteArray &output)
     QTextCodec *fallback = output.contains('\0') ? QTextCodec::codecForMib(UnmarkedUtf16)
                                                  : QTextCodec::codecForLocale();
     QString text = QTextCodec::codecForUtfText(output, fallback)->toUnicode(output);
+    // Regular expressions find nothing at all in a text with half a surrogate pair; as UTF-8 such a
+    // half becomes a question mark.
+    text = QString::fromUtf8(text.toUtf8());
     // No name holds one, and Qt complains of paths that do.
     return text.remove(QChar(QChar::Null));
 }

@@ -367,6 +367,10 @@ void tst_DriveChoice::wmicListings_data()
     QTest::newRow("UTF-8 with mark") << QByteArray("\xef\xbb\xbf"
                                                    "FreeSpace Name\n1 C:\n2 D:\n")
                                      << both;
+    QTest::newRow("half a surrogate pair")
+        << "\xff\xfe" + utf16(QStringLiteral("FreeSpace Name")) + "\x0d\xde" +
+               utf16(QStringLiteral("\r\n1 C:\r\n2 D:\r\n"))
+        << both;
     QTest::newRow("empty") << QByteArray() << QString();
     QTest::newRow("zero bytes") << QByteArray(7, '\0') << QString();
 }
