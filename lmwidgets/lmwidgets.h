@@ -23,7 +23,10 @@
 #include <lmwidgets/linetypecombobox.h>
 #include <lmwidgets/lmwidgets_global.h>
 #include <lmwidgets/qmessageboxdetailstext.h>
+#include <lmwidgets/talvoanimatedicon.h>
+#include <lmwidgets/talvobasicutil.h>
 #include <lmwidgets/talvodialogbase.h>
+#include <lmwidgets/talvosplashscreen.h>
 #include <lmwidgets/talvostylemanager.h>
 #include <lmwidgets/titlebar.h>
 
