@@ -4,6 +4,7 @@
  */
 
 #include "detailbutton_p.h"
+#include "dropshadow_p.h"
 #include "framelessmessagebox_p.h"
 
 #include <lmwidgets/framelessmessagebox.h>
@@ -12,10 +13,10 @@
 #include <QCoreApplication>
 #include <QCursor>
 #include <QDialogButtonBox>
-#include <QGraphicsDropShadowEffect>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QIcon>
+#include <QRegion>
 #include <QScreen>
 #include <QStyle>
 #include <QVBoxLayout>
@@ -113,6 +114,13 @@ int MessageLabelItem::heightForWidth(int width) const
 void MessageLabelItem::setGeometry(const QRect &rect)
 {
     QWidgetItem::setGeometry(rect.adjusted(0, 0, 0, overlap()));
+    // Nothing is to be seen of the label behind the button row. With a mask the repaint of a button
+    // leaves the label alone.
+    const QRegion seen =
+        overlap() > 0 ? QRegion(0, 0, widget()->width(), rect.height()) : QRegion();
+    if (widget()->mask() != seen) {
+        widget()->setMask(seen);
+    }
 }
 
 int MessageLabelItem::overlap() const
@@ -239,7 +247,7 @@ void FramelessMessageBoxPrivate::installShadow()
     if (shadow && q->graphicsEffect() == shadow) {
         return;
     }
-    auto *effect = new QGraphicsDropShadowEffect(q);
+    auto *effect = new DropShadow(q);
     effect->setBlurRadius(ShadowBlurRadius);
     effect->setOffset(ShadowOffset);
     effect->setColor(ShadowColor);

@@ -34,6 +34,21 @@ public:
     }
 };
 
+/** Counts the paint events of a widget. */
+class PaintCounter : public QObject
+{
+public:
+    explicit PaintCounter(QWidget *widget) { widget->installEventFilter(this); }
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        count += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+
+    int count = 0;
+};
+
 /** A style that centres the buttons and lets nobody touch the text. */
 class CentringStyle : public QProxyStyle
 {
@@ -66,6 +81,9 @@ private Q_SLOTS:
     void icons_data();
     void icons();
     void iconPixmap();
+    void aClearShadowChangesNoPixel();
+    void aShadowWithAColourIsPainted();
+    void aButtonIsRepaintedAlone();
     void titleBarOfAShownBox();
     void wordWrap();
     void textInteraction();
@@ -213,6 +231,57 @@ void tst_FramelessMessageBoxContent::iconPixmap()
     QVERIFY(box.findChild<QLabel *>(QStringLiteral("qt_msgboxex_icon_label"))->isHidden());
     box.setIconPixmap(QPixmap());
     QVERIFY(box.iconPixmap().isNull());
+}
+
+void tst_FramelessMessageBoxContent::aClearShadowChangesNoPixel()
+{
+    FramelessMessageBox box(QMessageBox::Question, QStringLiteral("Title"),
+                            QStringLiteral("Save the classification?"),
+                            QMessageBox::Yes | QMessageBox::No);
+    box.show();
+    QVERIFY(settle(&box));
+    const QImage ours = box.grab().toImage();
+
+    auto *stock = new QGraphicsDropShadowEffect(&box);
+    stock->setBlurRadius(24.0);
+    stock->setOffset(0.0, 4.0);
+    stock->setColor(QColor(0, 0, 0, 0));
+    box.setGraphicsEffect(stock);
+    QCOMPARE(ours, box.grab().toImage());
+}
+
+void tst_FramelessMessageBoxContent::aShadowWithAColourIsPainted()
+{
+    FramelessMessageBox box;
+    box.setAttribute(Qt::WA_TranslucentBackground);
+    box.show();
+    QVERIFY(settle(&box));
+    const QImage clear = box.grab().toImage();
+    auto *shadow = qobject_cast<QGraphicsDropShadowEffect *>(box.graphicsEffect());
+    QVERIFY(shadow);
+    shadow->setColor(Qt::red);
+    shadow->setOffset(40.0, 40.0);
+    QVERIFY(box.grab().toImage() != clear);
+    shadow->setColor(QColor(0, 0, 0, 0));
+    QCOMPARE(box.grab().toImage(), clear);
+}
+
+void tst_FramelessMessageBoxContent::aButtonIsRepaintedAlone()
+{
+    FramelessMessageBox box(QMessageBox::Question, QStringLiteral("Title"),
+                            QStringLiteral("Save the classification?"),
+                            QMessageBox::Yes | QMessageBox::No);
+    box.show();
+    QVERIFY(settle(&box));
+    QAbstractButton *button = box.button(QMessageBox::Yes);
+    PaintCounter label(messageLabel(&box));
+    PaintCounter painted(button);
+    button->update();
+    QTRY_COMPARE(painted.count, 1);
+    QCOMPARE(label.count, 0);
+
+    messageLabel(&box)->update();
+    QTRY_COMPARE(label.count, 1);
 }
 
 void tst_FramelessMessageBoxContent::titleBarOfAShownBox()
