@@ -1,8 +1,9 @@
-#ifndef DROPSHADOW_P_H
-#define DROPSHADOW_P_H
+#ifndef LMWIDGETS_DROPSHADOW_P_H
+#define LMWIDGETS_DROPSHADOW_P_H
 
 #include <QColor>
 #include <QGraphicsDropShadowEffect>
+#include <QWidget>
 
 namespace LM {
 namespace Widgets {
@@ -30,6 +31,18 @@ protected:
         QGraphicsDropShadowEffect::draw(painter);
     }
 };
+
+/** Gives @p dialog the shadow that message boxes and dialogs carry, and returns it. */
+inline DropShadow *installDialogShadow(QWidget *dialog)
+{
+    auto *shadow = new DropShadow(dialog);
+    shadow->setBlurRadius(24.0);
+    shadow->setOffset(0.0, 4.0);
+    // Fully transparent: hosts lay their own shadow around a dialog, and the effect keeps its place.
+    shadow->setColor(QColor(0, 0, 0, 0));
+    dialog->setGraphicsEffect(shadow);
+    return shadow;
+}
 
 } // namespace Widgets
 } // namespace LM

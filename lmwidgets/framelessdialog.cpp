@@ -1,5 +1,6 @@
 #include <lmwidgets/framelessdialog.h>
 
+#include "buttontaborder_p.h"
 #include "framelessdialog_p.h"
 
 #include <lmwidgets/framelesshelper.h>
@@ -112,30 +113,8 @@ void FramelessDialogPrivate::putButtonsLastInTabOrder()
         return;
     }
     tabOrderSettled = true;
-    if (!okButton || !cancelButton || !applyButton || !bottomWidget) {
-        return;
-    }
-    if (okButton->isHidden() && cancelButton->isHidden() && applyButton->isHidden()) {
-        // A message box has buttons of its own in this row. Moving the hidden ones behind the
-        // content would give the keyboard to its leftmost button in place of the one that accepts.
-        return;
-    }
-    if (okButton->nextInFocusChain() != cancelButton ||
-        cancelButton->nextInFocusChain() != applyButton) {
-        return;
-    }
-    QWidget *last = nullptr;
-    for (QWidget *widget = applyButton->nextInFocusChain(); widget != q && widget != okButton;
-         widget = widget->nextInFocusChain()) {
-        if (widget->focusPolicy() != Qt::NoFocus && !bottomWidget->isAncestorOf(widget)) {
-            last = widget;
-        }
-    }
-    if (last) {
-        QWidget::setTabOrder(last, cancelButton);
-        QWidget::setTabOrder(cancelButton, applyButton);
-        QWidget::setTabOrder(applyButton, okButton);
-    }
+    LM::Widgets::putButtonsLastInTabOrder(q, bottomWidget, {okButton, cancelButton, applyButton},
+                                          {cancelButton, applyButton, okButton});
 }
 
 void FramelessDialogPrivate::createHelper()

@@ -37,11 +37,6 @@ constexpr int ButtonSpacing = 16;
 constexpr int DetailsGap = 8;
 constexpr int IconExtent = 16;
 
-constexpr double ShadowBlurRadius = 24.0;
-const QPointF ShadowOffset(0.0, 4.0);
-// Fully transparent: hosts lay their own shadow around the box, and the effect keeps its place.
-const QColor ShadowColor(0, 0, 0, 0);
-
 const char BoxStyle[] =
     "background:#2B2B2B;color:#ffffff;QDialog#globa_pMessageBox{border: 1px solid #585858;}";
 const char FirstLabelStyle[] = "QLabel{background-color:transparent;font-size:14px;}";
@@ -247,12 +242,7 @@ void FramelessMessageBoxPrivate::installShadow()
     if (shadow && q->graphicsEffect() == shadow) {
         return;
     }
-    auto *effect = new DropShadow(q);
-    effect->setBlurRadius(ShadowBlurRadius);
-    effect->setOffset(ShadowOffset);
-    effect->setColor(ShadowColor);
-    q->setGraphicsEffect(effect);
-    shadow = effect;
+    shadow = installDialogShadow(q);
 }
 
 /**

@@ -29,5 +29,6 @@
 #include <lmwidgets/talvosplashscreen.h>
 #include <lmwidgets/talvostylemanager.h>
 #include <lmwidgets/titlebar.h>
+#include <lmwidgets/vantoroframelessdialog.h>
 
 #endif
