@@ -23,12 +23,14 @@
 #include <lmwidgets/linetypecombobox.h>
 #include <lmwidgets/lmwidgets_global.h>
 #include <lmwidgets/qmessageboxdetailstext.h>
+#include <lmwidgets/roundcheckbox.h>
 #include <lmwidgets/talvoanimatedicon.h>
 #include <lmwidgets/talvobasicutil.h>
 #include <lmwidgets/talvodialogbase.h>
 #include <lmwidgets/talvosplashscreen.h>
 #include <lmwidgets/talvostylemanager.h>
 #include <lmwidgets/titlebar.h>
+#include <lmwidgets/toggleswitch.h>
 #include <lmwidgets/vantoroframelessdialog.h>
 
 #endif
