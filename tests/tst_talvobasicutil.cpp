@@ -108,6 +108,7 @@ private Q_SLOTS:
 
     void companion_data();
     void companion();
+    void companionIsTheLastListed();
     void allFiles();
     void allFilesOfARelativeFolder();
     void linkLoops();
@@ -566,6 +567,36 @@ void tst_TalvoBasicUtil::companion()
     QCOMPARE(TalvoBasicUtil::getConfigPathFromCloudPath(QString()), QString());
     QCOMPARE(TalvoBasicUtil::getConfigPathFromCloudPath(QStringLiteral("/no/such/a.las")),
              QString());
+}
+
+void tst_TalvoBasicUtil::companionIsTheLastListed()
+{
+    // Each suffix that may follow adds one more candidate; the plain way goes through the listing.
+    const QString folder = m_world->path(QStringLiteral("run/"));
+    const QString base = QStringLiteral("Scan.01");
+    const char *const names[] = {
+        "scan.01.kvdata",       ".Scan.01.kvdata",     "SCAN.01.INFO.kvdata",
+        "scan.01.kvdata2",      "Scan.01.KVDATAx",     "scan.01.info.kvdata.",
+        "scan.01.info.kvdata_", "scan.01.kvdata.info", "Scan.01.kvdata~"};
+    QStringList answers;
+    for (const char *name : names) {
+        addFile(folder + QLatin1String(name));
+        QString expected;
+        for (const QFileInfo &entry : QDir(folder).entryInfoList()) {
+            const bool matches = entry.completeBaseName().compare(base, Qt::CaseInsensitive) == 0 ||
+                                 entry.completeBaseName().compare(base + QStringLiteral(".info"),
+                                                                  Qt::CaseInsensitive) == 0;
+            if (matches &&
+                entry.fileName().contains(QStringLiteral(".kvdata"), Qt::CaseInsensitive)) {
+                expected = entry.absoluteFilePath();
+            }
+        }
+        QCOMPARE(TalvoBasicUtil::getConfigPathFromCloudPath(folder + base + QStringLiteral(".las")),
+                 expected);
+        answers.append(expected);
+    }
+    QVERIFY(answers.removeDuplicates() > 0);
+    QVERIFY2(answers.size() > 3, qPrintable(answers.join(QLatin1Char('\n'))));
 }
 
 void tst_TalvoBasicUtil::allFiles()
