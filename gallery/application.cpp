@@ -3,8 +3,11 @@
 #include "mainwindow.h"
 #include "page.h"
 #include "shooter.h"
+#include "splashpicture.h"
 #include "themes.h"
 
+#include <lmwidgets/lmwidgets_version.h>
+#include <lmwidgets/talvosplashscreen.h>
 #include <lmwidgets/talvostylemanager.h>
 
 #include <QApplication>
@@ -37,13 +40,15 @@ struct Options
     QCommandLineOption scale{QStringLiteral("scale"),
                              QStringLiteral("Scale everything by <factor>, for example 2."),
                              QStringLiteral("factor")};
+    QCommandLineOption noSplash{QStringLiteral("no-splash"),
+                                QStringLiteral("Show the window without a splash screen.")};
     QCommandLineOption list{QStringLiteral("list"),
                             QStringLiteral("List the pages and their pictures and exit.")};
 
     void addTo(QCommandLineParser &parser) const
     {
         parser.setApplicationDescription(QStringLiteral("Shows the widgets of lmwidgets."));
-        parser.addOptions({shoot, theme, page, scale, list});
+        parser.addOptions({shoot, theme, page, scale, noSplash, list});
     }
 };
 
@@ -120,6 +125,16 @@ int shootAsAsked(const QCommandLineParser &parser, const Options &options, QText
     return shoot(parser.value(options.shoot), themes, names, out, err) ? Success : PictureFailed;
 }
 
+/** Loads everything that @p window has to show behind a splash screen, and shows it then. */
+void showAfterSplash(MainWindow &window)
+{
+    TalvoSplashScreen splash(QStringLiteral(LMWIDGETS_VERSION_STRING), splashPicture());
+    splash.show();
+    window.loadPages([&splash] { splash.beat(); });
+    window.show();
+    splash.finish(&window);
+}
+
 int showWindow(const QCommandLineParser &parser, const Options &options)
 {
     if (parser.isSet(options.theme)) {
@@ -127,7 +142,11 @@ int showWindow(const QCommandLineParser &parser, const Options &options)
     }
     MainWindow window;
     window.showPage(parser.value(options.page));
-    window.show();
+    if (parser.isSet(options.noSplash)) {
+        window.show();
+    } else {
+        showAfterSplash(window);
+    }
     return QApplication::exec();
 }
 

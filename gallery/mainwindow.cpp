@@ -128,11 +128,16 @@ void MainWindow::showPage(const QString &name)
     }
 }
 
-void MainWindow::showRow(int row)
+void MainWindow::loadPages(const std::function<void()> &afterEach)
 {
-    if (row < 0) {
-        return;
+    for (int row = 0; row < pages().size(); ++row) {
+        view(row);
+        afterEach();
     }
+}
+
+QWidget *MainWindow::view(int row)
+{
     if (!m_views.contains(row)) {
         auto *area = new QScrollArea;
         area->setWidgetResizable(true);
@@ -141,7 +146,14 @@ void MainWindow::showRow(int row)
         m_stack->addWidget(area);
         m_views.insert(row, area);
     }
-    m_stack->setCurrentWidget(m_views.value(row));
+    return m_views.value(row);
+}
+
+void MainWindow::showRow(int row)
+{
+    if (row >= 0) {
+        m_stack->setCurrentWidget(view(row));
+    }
 }
 
 } // namespace gallery

@@ -5,6 +5,8 @@
 #include <QMainWindow>
 #include <QString>
 
+#include <functional>
+
 QT_BEGIN_NAMESPACE
 class QListWidget;
 class QStackedWidget;
@@ -24,6 +26,11 @@ class MainWindow : public QMainWindow
 public:
     explicit MainWindow(QWidget *parent = nullptr);
 
+    /**
+     * Makes all pages now, not when they are first shown, and calls @p afterEach after every one.
+     */
+    void loadPages(const std::function<void()> &afterEach);
+
     /** Shows the page called @p name; an unknown name is ignored. */
     void showPage(const QString &name);
 
@@ -33,6 +40,7 @@ private:
     QWidget *createHeader();
     QWidget *createThemeSwitch();
     void createPageList();
+    QWidget *view(int row);
     void showRow(int row);
 
     QListWidget *m_list = nullptr;

@@ -3,6 +3,7 @@
 #include <QMetaMethod>
 #include <QMovie>
 #include <QPixmap>
+#include <QPointer>
 
 TalvoAnimatedIcon::TalvoAnimatedIcon(const QString &path, QObject *parent)
     : QObject(parent), m_movie(new QMovie(this))
@@ -14,7 +15,16 @@ TalvoAnimatedIcon::TalvoAnimatedIcon(const QString &path, QObject *parent)
     connect(m_movie, &QMovie::frameChanged, this, &TalvoAnimatedIcon::onFrameChanged);
 }
 
-TalvoAnimatedIcon::~TalvoAnimatedIcon() = default;
+TalvoAnimatedIcon::~TalvoAnimatedIcon()
+{
+    if (m_openFrames > 0) {
+        // A receiver deletes this object, and the movie that called it is not done with itself.
+        m_movie->disconnect(this);
+        m_movie->stop();
+        m_movie->setParent(nullptr);
+        m_movie->deleteLater();
+    }
+}
 
 bool TalvoAnimatedIcon::connectFrameChanged(const QObject *receiver, const char *member)
 {
@@ -24,6 +34,7 @@ bool TalvoAnimatedIcon::connectFrameChanged(const QObject *receiver, const char 
     // Unlike start() this emits nothing before the caller has seen that the connection is there; a
     // movie that never ran is started by it too.
     m_movie->setPaused(false);
+    m_isWanted = true;
     return true;
 }
 
@@ -45,6 +56,11 @@ QString TalvoAnimatedIcon::iconPath()
 void TalvoAnimatedIcon::setIconPath(const QString &path)
 {
     m_movie->setFileName(path);
+    if (m_isWanted) {
+        // QMovie stops its clock at a new file and still calls itself running.
+        m_movie->setPaused(true);
+        m_movie->setPaused(false);
+    }
 }
 
 int TalvoAnimatedIcon::width() const
@@ -61,7 +77,13 @@ void TalvoAnimatedIcon::onFrameChanged()
 {
     if (!isSignalConnected(QMetaMethod::fromSignal(&TalvoAnimatedIcon::frameChanged))) {
         m_movie->setPaused(true);
+        m_isWanted = false;
     }
     m_icon = QIcon(m_movie->currentPixmap());
+    const QPointer<TalvoAnimatedIcon> guard(this);
+    ++m_openFrames;
     Q_EMIT frameChanged();
+    if (guard) {
+        --m_openFrames;
+    }
 }

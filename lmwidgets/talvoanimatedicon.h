@@ -55,9 +55,10 @@ public:
     /** Returns the path of the file, as it was set. */
     QString iconPath();
     /**
-     * Sets the file; the icon stays as it is until the next frame. An animation that runs goes on
-     * with the new file from its first frame, one that does not run stays at rest. Of a file that
-     * cannot be read no frame comes.
+     * Sets the file; the icon stays as it is until the next frame. While somebody listens the
+     * animation goes on with the new file from its first frame, also where the former could not be
+     * read or had come to its end; otherwise it stays at rest. Of a file that cannot be read no
+     * frame comes.
      */
     void setIconPath(const QString &path);
 
@@ -67,7 +68,10 @@ public:
     int height() const;
 
 Q_SIGNALS:
-    /** There is a new icon(). Is emitted for each frame, the one that pauses included. */
+    /**
+     * There is a new icon(). Is emitted for each frame, the one that pauses included. A receiver
+     * may delete this object.
+     */
     void frameChanged();
 
 private Q_SLOTS:
@@ -78,6 +82,8 @@ private:
 
     QMovie *m_movie;
     QIcon m_icon;
+    bool m_isWanted = false; ///< from connectFrameChanged() until nobody listens
+    int m_openFrames = 0;    ///< the calls of onFrameChanged() that the movie waits for
 };
 
 #endif

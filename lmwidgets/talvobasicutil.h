@@ -3,6 +3,7 @@
 
 #include <lmwidgets/lmwidgets_global.h>
 
+#include <QObject>
 #include <QString>
 #include <QStringList>
 
@@ -39,12 +40,40 @@ QT_END_NAMESPACE
  * }
  * @endcode
  *
- * Everything runs on the calling thread, which is the GUI thread for all that reads the time stamp
- * or touches a widget. createTempPath() runs system commands and may take long; how to keep a window
- * alive meanwhile stands in docs/working-folders.md.
+ * All functions are static; like every class here this one has a meta-object, and no object of it is
+ * needed. They run on the calling thread and return when they are done. That is the GUI thread for
+ * all that reads the time stamp or touches a widget.
+ *
+ * @par What blocks, and for how long
+ * createTempPath() waits for the system's list of drives: for "wmic" without a limit, then, if that
+ * printed nothing, for "powershell" up to 30 s and up to 30 s more if that cannot be ended. One to
+ * three seconds are usual. Then it writes one small file to each drive that it considers, for which
+ * a drive may have to spin up. getDefaultTempPath() calls it on the first use of an installation and
+ * whenever the stored value is empty, and so do, through it, getDefaultProjectTempDataPath(),
+ * getConfigDataDecodePath() and the functions that clear. Every other call takes as long as a few
+ * file operations do, deleting and getAllFiles() as long as there are files.
+ *
+ * @par Keeping the window alive meanwhile
+ * Make the first call on another thread, before anything else needs the folder, and run an event
+ * loop until it is done; from then on the answer comes from the configuration. createTempPath(),
+ * getDefaultPath(), getDefaultTempPath(), getPathWriteable(), getAllFiles() and
+ * getConfigPathFromCloudPath() may run on any thread.
+ * @code
+ * QEventLoop loop;
+ * const QScopedPointer<QThread> scan(
+ *     QThread::create([] { TalvoBasicUtil::getDefaultTempPath(); }));
+ * QObject::connect(scan.data(), &QThread::finished, &loop, &QEventLoop::quit);
+ * scan->start();
+ * loop.exec(); // windows are painted, a splash screen beats
+ * scan->wait();
+ * @endcode
+ * A second call before that scans a second time; both store one whole value, and the later stays.
+ * The longer way, with a splash screen, stands in docs/working-folders.md.
  */
-class LMWIDGETS_EXPORT TalvoBasicUtil
+class LMWIDGETS_EXPORT TalvoBasicUtil : public QObject
 {
+    Q_OBJECT
+
 public:
     /**
      * Chooses the drive for temporary data, creates "KVD Talvo Model-temp" in its root and returns

@@ -56,9 +56,10 @@ protected:
 
 private:
     Q_DISABLE_COPY(TalvoSplashScreen)
+    friend class tst_TalvoSplashScreen; // counts the beats, which nothing shows
 
     QString m_versionText;
-    int m_beat = 1;
+    int m_beat = 1; ///< 1, 2, 3, 1 and so on
     QPixmap m_background;
 };
 

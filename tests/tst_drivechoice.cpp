@@ -93,14 +93,20 @@ private Q_SLOTS:
     void lettersThatAreSkipped_data();
     void lettersThatAreSkipped();
     void unwritableDrive();
+    void driveWithoutPermission();
     void folderThatCannotBeMade();
+    void folderThatMayNotBeMade();
     void folderThatIsThereAlready();
     void commandLines();
     void powerShellInPlaceOfWmic_data();
     void powerShellInPlaceOfWmic();
     void noPowerShellWhenWmicHadLines_data();
     void noPowerShellWhenWmicHadLines();
+    void realOutput_data();
+    void realOutput();
     void noPrograms();
+    void programThatCrashes();
+    void programThatCannotBeRun();
     void logMessages();
     void wmicListings_data();
     void wmicListings();
@@ -246,6 +252,30 @@ void tst_DriveChoice::unwritableDrive()
     QVERIFY(!QFileInfo::exists(QStringLiteral("H:")));
 }
 
+void tst_DriveChoice::driveWithoutPermission()
+{
+    m_world->addProgram(wmic(), WmicHeader + "99 E:\r\r\n7 D:\r\r\n");
+    const standins::AsNobody nobody(*m_world);
+    if (!nobody) {
+        QSKIP("root may not become anybody else here");
+    }
+    QVERIFY(QFile::setPermissions(QStringLiteral("E:"), QFile::ReadOwner | QFile::ExeOwner));
+    QCOMPARE(TalvoBasicUtil::createTempPath(), tempFolderOf(QStringLiteral("D:")));
+    QCOMPARE(solidStateQuestions, QStringList{QStringLiteral("D:")});
+    QVERIFY(QDir(QStringLiteral("E:")).isEmpty());
+}
+
+void tst_DriveChoice::folderThatMayNotBeMade()
+{
+    // It leads to where nothing can be made.
+    World::write(m_world->path(QStringLiteral("file")), "x");
+    QVERIFY(QFile::link(m_world->path(QStringLiteral("file/below")),
+                        tempFolderOf(QStringLiteral("D:"))));
+    m_world->addProgram(wmic(), WmicHeader + "99 D:\r\r\n50 E:\r\r\n");
+    QCOMPARE(TalvoBasicUtil::createTempPath(), m_world->systemTemp());
+    QVERIFY(!QFileInfo::exists(tempFolderOf(QStringLiteral("E:"))));
+}
+
 void tst_DriveChoice::folderThatCannotBeMade()
 {
     // A file has its name. The drives that are not solid-state are not tried then.
@@ -324,6 +354,70 @@ void tst_DriveChoice::noPowerShellWhenWmicHadLines()
     m_world->addProgram(powershell(), PowerShellHeader + "D: 5\r\n");
     QCOMPARE(TalvoBasicUtil::createTempPath(), m_world->systemTemp());
     QCOMPARE(m_world->arguments(powershell()), QStringList());
+}
+
+void tst_DriveChoice::realOutput_data()
+{
+    QTest::addColumn<QByteArray>("wmicOutput");
+    QTest::addColumn<QByteArray>("powerShellOutput");
+    const QByteArray none;
+    const QByteArray wmicText = "FreeSpace     Name  \r\r\n"
+                                "77824753664   C:    \r\r\n"
+                                "20000000000   D:    \r\r\n"
+                                "              E:    \r\r\n"
+                                "10000000000   F:    \r\r\n"
+                                "\r\r\n";
+    const QByteArray powerShellText = "\r\n"
+                                      "DeviceID   FreeSpace\r\n"
+                                      "--------   ---------\r\n"
+                                      "C:       77824753664\r\n"
+                                      "D:       20000000000\r\n"
+                                      "E:                  \r\n"
+                                      "F:       10000000000\r\n"
+                                      "\r\n\r\n";
+    QTest::newRow("wmic") << wmicText << none;
+    QTest::newRow("wmic, CRLF") << QByteArray(wmicText).replace("\r\r\n", "\r\n") << none;
+    QTest::newRow("wmic, LF") << QByteArray(wmicText).replace("\r\r\n", "\n") << none;
+    QTest::newRow("wmic, UTF-16 with mark")
+        << "\xff\xfe" + utf16(QString::fromLatin1(wmicText)) << none;
+    QTest::newRow("wmic, UTF-16 without mark") << utf16(QString::fromLatin1(wmicText)) << none;
+    QTest::newRow("PowerShell") << none << powerShellText;
+    QTest::newRow("PowerShell, LF") << none << QByteArray(powerShellText).replace("\r\n", "\n");
+    QTest::newRow("PowerShell, UTF-16")
+        << none << "\xff\xfe" + utf16(QString::fromLatin1(powerShellText));
+}
+
+void tst_DriveChoice::realOutput()
+{
+    QFETCH(QByteArray, wmicOutput);
+    QFETCH(QByteArray, powerShellOutput);
+    m_world->addProgram(wmic(), wmicOutput);
+    m_world->addProgram(powershell(), powerShellOutput);
+    QCOMPARE(TalvoBasicUtil::createTempPath(), tempFolderOf(QStringLiteral("D:")));
+    QCOMPARE(networkQuestions,
+             (QStringList{QStringLiteral("C:"), QStringLiteral("D:"), QStringLiteral("F:")}));
+    QCOMPARE(solidStateQuestions, (QStringList{QStringLiteral("D:"), QStringLiteral("F:")}));
+    QCOMPARE(m_world->arguments(powershell()).isEmpty(), !wmicOutput.isEmpty());
+}
+
+void tst_DriveChoice::programThatCrashes()
+{
+    // What it said before counts.
+    m_world->addProgram(wmic(), WmicHeader + "5 D:\r\r\n", 0, "kill -9 $$");
+    QCOMPARE(TalvoBasicUtil::createTempPath(), tempFolderOf(QStringLiteral("D:")));
+    m_world->addProgram(wmic(), QByteArray(), 0, "kill -9 $$");
+    m_world->addProgram(powershell(), PowerShellHeader + "E: 5\r\n", 1, "echo E: no 1>&2");
+    QCOMPARE(TalvoBasicUtil::createTempPath(), tempFolderOf(QStringLiteral("E:")));
+}
+
+void tst_DriveChoice::programThatCannotBeRun()
+{
+    QVERIFY(QDir().mkdir(m_world->path(QStringLiteral("programs/wmic"))));
+    World::write(m_world->path(QStringLiteral("programs/powershell")), "\x7f"
+                                                                       "ELF");
+    QFile::setPermissions(m_world->path(QStringLiteral("programs/powershell")),
+                          QFile::ReadOwner | QFile::ExeOwner);
+    QCOMPARE(TalvoBasicUtil::createTempPath(), m_world->systemTemp());
 }
 
 void tst_DriveChoice::noPrograms()

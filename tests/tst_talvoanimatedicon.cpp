@@ -3,7 +3,9 @@
 #include <lmwidgets/talvoanimatedicon.h>
 
 #include <QMovie>
+#include <QPointer>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 
 #include <memory>
 
@@ -49,6 +51,10 @@ private Q_SLOTS:
     void iconPath();
     void fileThatIsNone();
     void deletedWhileAnimating();
+    void otherFileWhileAnimating();
+    void fileAfterConnecting();
+    void otherFileWhilePaused();
+    void deletedByItsReceiver();
 };
 
 void tst_TalvoAnimatedIcon::initialState()
@@ -211,6 +217,80 @@ void tst_TalvoAnimatedIcon::deletedWhileAnimating()
     const int calls = receiver.calls;
     QCoreApplication::processEvents();
     QCOMPARE(receiver.calls, calls);
+}
+
+void tst_TalvoAnimatedIcon::otherFileWhileAnimating()
+{
+    const QTemporaryDir folder;
+    const QString still = folder.filePath(QStringLiteral("still.png"));
+    QImage image(30, 20, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    QVERIFY(image.save(still));
+
+    TalvoAnimatedIcon icon(waitingFile());
+    Receiver receiver;
+    QVERIFY(icon.connectFrameChanged(&receiver, SLOT(count())));
+    QTRY_VERIFY(receiver.calls > 2);
+    const QSize size(icon.width(), icon.height());
+    icon.setIconPath(still);
+    QCOMPARE(icon.iconPath(), still);
+    QTRY_COMPARE(QSize(icon.width(), icon.height()), QSize(30, 20));
+    QTRY_COMPARE(icon.icon().pixmap(30, 20).toImage().pixelColor(5, 5), QColor(Qt::red));
+
+    icon.setIconPath(waitingFile());
+    QTRY_COMPARE(QSize(icon.width(), icon.height()), size);
+    const int calls = receiver.calls;
+    QTRY_VERIFY(receiver.calls > calls + 2);
+}
+
+void tst_TalvoAnimatedIcon::fileAfterConnecting()
+{
+    TalvoAnimatedIcon icon;
+    Receiver receiver;
+    QVERIFY(icon.connectFrameChanged(&receiver, SLOT(count())));
+    QCoreApplication::processEvents();
+    QCOMPARE(receiver.calls, 0);
+    // There was nothing to play.
+    QTRY_COMPARE(movieOf(icon)->state(), QMovie::NotRunning);
+    icon.setIconPath(waitingFile());
+    QTRY_VERIFY(receiver.calls > 2);
+}
+
+void tst_TalvoAnimatedIcon::otherFileWhilePaused()
+{
+    TalvoAnimatedIcon icon(waitingFile());
+    Receiver receiver;
+    QVERIFY(icon.connectFrameChanged(&receiver, SLOT(count())));
+    QTRY_VERIFY(receiver.calls > 0);
+    QVERIFY(icon.disconnectFrameChanged(&receiver, SLOT(count())));
+    QTRY_COMPARE(movieOf(icon)->state(), QMovie::Paused);
+    const int calls = receiver.calls;
+    QSignalSpy frames(&icon, &TalvoAnimatedIcon::frameChanged);
+    icon.setIconPath(waitingFile());
+    // Still at rest, for longer than several frames take; then it goes on.
+    QVERIFY(movieOf(icon)->state() != QMovie::Running);
+    QVERIFY(!frames.wait(500));
+    QVERIFY(icon.connectFrameChanged(&receiver, SLOT(count())));
+    QTRY_VERIFY(receiver.calls > calls + 2);
+}
+
+void tst_TalvoAnimatedIcon::deletedByItsReceiver()
+{
+    auto *icon = new TalvoAnimatedIcon(waitingFile());
+    const QPointer<TalvoAnimatedIcon> guard(icon);
+    const QPointer<QMovie> movie(movieOf(*icon));
+    Receiver receiver;
+    bool survived = false;
+    QVERIFY(icon->connectFrameChanged(&receiver, SLOT(count())));
+    connect(icon, &TalvoAnimatedIcon::frameChanged, icon, [&] {
+        delete icon;
+        // The movie is in the midst of its own signal and looks at itself afterwards.
+        survived = movie;
+    });
+    QTRY_VERIFY(!guard);
+    QVERIFY(survived);
+    QTRY_VERIFY(!movie);
+    QCOMPARE(receiver.calls, 1);
 }
 
 LMTEST_MAIN(tst_TalvoAnimatedIcon)

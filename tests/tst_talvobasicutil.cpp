@@ -10,18 +10,12 @@
 
 #include <QDirIterator>
 #include <QLineEdit>
-#include <QProcess>
 #include <QScopedPointer>
 #include <QSettings>
-#include <QThread>
 #include <QToolButton>
 
-#include <algorithm>
-#include <fcntl.h>
 #include <functional>
-#include <sys/mount.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 using LM::Widgets::TalvoStyleManager;
 using standins::World;
@@ -73,37 +67,6 @@ QStringList contentOf(const QString &folder)
     return paths;
 }
 
-/** Makes a chain of @p depth folders called "d" with a file "f" in each, however long its path. */
-bool makeDeepTree(const QString &top, int depth)
-{
-    int folder = open(QFile::encodeName(top).constData(), O_RDONLY | O_DIRECTORY);
-    for (int i = 0; folder >= 0 && i < depth; ++i) {
-        const int file = openat(folder, "f", O_WRONLY | O_CREAT, 0600);
-        close(file);
-        const bool made = file >= 0 && mkdirat(folder, "d", 0700) == 0;
-        const int next = made ? openat(folder, "d", O_RDONLY | O_DIRECTORY) : -1;
-        close(folder);
-        folder = next;
-    }
-    close(folder);
-    return folder >= 0;
-}
-
-/** Deletes what makeDeepTree() made, from the deepest that a path can name upwards. */
-bool removeDeepTree(const QString &top)
-{
-    return QProcess::execute(QStringLiteral("/bin/rm"), {QStringLiteral("-rf"), top}) == 0;
-}
-
-/** Runs @p work on a thread with little stack, where deep recursion ends the program. */
-void runWithSmallStack(const std::function<void()> &work)
-{
-    const QScopedPointer<QThread> thread(QThread::create(work));
-    thread->setStackSize(128 * 1024);
-    thread->start();
-    thread->wait();
-}
-
 } // namespace
 
 class tst_TalvoBasicUtil : public lmtest::TestCase
@@ -132,27 +95,25 @@ private Q_SLOTS:
     void projectFolders_data();
     void projectFolders();
     void projectFolderThatCannotBeMade();
-    void fullDisk();
     void stampsThatNameNoFolder_data();
     void stampsThatNameNoFolder();
     void cleanScratchFolder();
     void clearCurrentProject();
     void clearAllProjects();
+    void clearingSaysWhereItStands();
     void clearAllProjectsWithoutValue();
     void clearAllProjectsWithEmptyValue();
     void linksAreNotFollowed();
     void scratchFolderThatIsALink();
-    void deepScratchFolder();
-    void twoAtOnce();
 
     void companion_data();
     void companion();
+    void companionIsTheLastListed();
     void allFiles();
     void allFilesOfARelativeFolder();
     void linkLoops();
-    void deepTree();
-    void treeDeeperThanAPath();
 
+    void metaObject();
     void actionIcon();
     void lineEditStyle();
 
@@ -397,32 +358,6 @@ void tst_TalvoBasicUtil::projectFolderThatCannotBeMade()
     QCOMPARE(TalvoBasicUtil::getConfigDataDecodePath(), QString());
 }
 
-void tst_TalvoBasicUtil::fullDisk()
-{
-#ifdef __linux__
-    QVERIFY(QDir().mkpath(temp()));
-    const QByteArray folder = QFile::encodeName(temp());
-    if (mount("tmpfs", folder.constData(), "tmpfs", 0, "size=16k,nr_inodes=2") != 0) {
-        QSKIP("a small disk of its own can be mounted by root only");
-    }
-    // The folder itself is one of the two; the probe or one more folder takes the other.
-    QCOMPARE(TalvoBasicUtil::getDefaultTempPath(), temp());
-    QCOMPARE(TalvoBasicUtil::getConfigDataDecodePath(), QString());
-    QVERIFY(QFileInfo(temp() + QStringLiteral("/configdatadecodetemp")).isDir());
-    // Now the disk takes nothing at all.
-    QVERIFY(!TalvoBasicUtil::getPathWriteable(temp()));
-    QCOMPARE(TalvoBasicUtil::getDefaultTempPath(), m_world->systemTemp());
-    QCOMPARE(stored(), temp());
-    QCOMPARE(umount(folder.constData()), 0);
-    QVERIFY(mount("tmpfs", folder.constData(), "tmpfs", MS_RDONLY, "size=16k") == 0);
-    QVERIFY(!TalvoBasicUtil::getPathWriteable(temp()));
-    QCOMPARE(TalvoBasicUtil::getDefaultTempPath(), m_world->systemTemp());
-    QCOMPARE(umount(folder.constData()), 0);
-#else
-    QSKIP("needs a disk of its own");
-#endif
-}
-
 void tst_TalvoBasicUtil::stampsThatNameNoFolder_data()
 {
     QTest::addColumn<QString>("stamp");
@@ -496,6 +431,29 @@ void tst_TalvoBasicUtil::clearAllProjects()
              (QStringList{temp() + QStringLiteral("/mine"), temp() + QStringLiteral("/mine/a")}));
 }
 
+void tst_TalvoBasicUtil::clearingSaysWhereItStands()
+{
+    // Hosts sort their log by these.
+    static QStringList places;
+    places.clear();
+    const QtMessageHandler before = qInstallMessageHandler(
+        [](QtMsgType, const QMessageLogContext &context, const QString &message) {
+            const QString file = QString::fromUtf8(context.file);
+            places.append(message + QLatin1Char('|') +
+                          file.mid(file.lastIndexOf(QStringLiteral("lmwidgets/"))) +
+                          QLatin1Char('|') + QString::fromUtf8(context.function) +
+                          QLatin1Char('|') + QString::fromUtf8(context.category));
+        });
+    TalvoBasicUtil::clearHistoryProjectTempData();
+    qInstallMessageHandler(before);
+    const QString rest =
+        QStringLiteral("|lmwidgets/talvobasicutil.cpp|"
+                       "static void TalvoBasicUtil::clearHistoryProjectTempData()|default");
+    QCOMPARE(places, (QStringList{QStringLiteral("start clear temp") + rest,
+                                  QStringLiteral("start clear temp1") + rest,
+                                  QStringLiteral("end clear temp") + rest}));
+}
+
 void tst_TalvoBasicUtil::clearAllProjectsWithoutValue()
 {
     QVERIFY(QFile::remove(configPath()));
@@ -558,36 +516,6 @@ void tst_TalvoBasicUtil::scratchFolderThatIsALink()
     QVERIFY(!isThere(data) && !isThere(scratch));
 }
 
-void tst_TalvoBasicUtil::deepScratchFolder()
-{
-    // More levels than files that a process may have open.
-    const QString folder = temp() + QStringLiteral("/configdatadecodetemp/") + Stamp;
-    QVERIFY(QDir().mkpath(folder));
-    QVERIFY(makeDeepTree(folder, 1900));
-    runWithSmallStack([] { TalvoBasicUtil::cleanConfigDataDecodePath(); });
-    QVERIFY(!QFileInfo::exists(folder));
-}
-
-void tst_TalvoBasicUtil::twoAtOnce()
-{
-    // Threads are no processes, but the files and locks are the same.
-    const auto work = [] {
-        for (int i = 0; i < 50; ++i) {
-            if (TalvoBasicUtil::getDefaultTempPath().isEmpty() ||
-                TalvoBasicUtil::getConfigDataDecodePath().isEmpty()) {
-                qFatal("one came in the way of the other");
-            }
-        }
-    };
-    QScopedPointer<QThread> first(QThread::create(work));
-    QScopedPointer<QThread> second(QThread::create(work));
-    first->start();
-    second->start();
-    QVERIFY(first->wait());
-    QVERIFY(second->wait());
-    QCOMPARE(stored(), temp());
-}
-
 void tst_TalvoBasicUtil::companion_data()
 {
     QTest::addColumn<QStringList>("names");
@@ -639,6 +567,36 @@ void tst_TalvoBasicUtil::companion()
     QCOMPARE(TalvoBasicUtil::getConfigPathFromCloudPath(QString()), QString());
     QCOMPARE(TalvoBasicUtil::getConfigPathFromCloudPath(QStringLiteral("/no/such/a.las")),
              QString());
+}
+
+void tst_TalvoBasicUtil::companionIsTheLastListed()
+{
+    // Each suffix that may follow adds one more candidate; the plain way goes through the listing.
+    const QString folder = m_world->path(QStringLiteral("run/"));
+    const QString base = QStringLiteral("Scan.01");
+    const char *const names[] = {
+        "scan.01.kvdata",       ".Scan.01.kvdata",     "SCAN.01.INFO.kvdata",
+        "scan.01.kvdata2",      "Scan.01.KVDATAx",     "scan.01.info.kvdata.",
+        "scan.01.info.kvdata_", "scan.01.kvdata.info", "Scan.01.kvdata~"};
+    QStringList answers;
+    for (const char *name : names) {
+        addFile(folder + QLatin1String(name));
+        QString expected;
+        for (const QFileInfo &entry : QDir(folder).entryInfoList()) {
+            const bool matches = entry.completeBaseName().compare(base, Qt::CaseInsensitive) == 0 ||
+                                 entry.completeBaseName().compare(base + QStringLiteral(".info"),
+                                                                  Qt::CaseInsensitive) == 0;
+            if (matches &&
+                entry.fileName().contains(QStringLiteral(".kvdata"), Qt::CaseInsensitive)) {
+                expected = entry.absoluteFilePath();
+            }
+        }
+        QCOMPARE(TalvoBasicUtil::getConfigPathFromCloudPath(folder + base + QStringLiteral(".las")),
+                 expected);
+        answers.append(expected);
+    }
+    QVERIFY(answers.removeDuplicates() > 0);
+    QVERIFY2(answers.size() > 3, qPrintable(answers.join(QLatin1Char('\n'))));
 }
 
 void tst_TalvoBasicUtil::allFiles()
@@ -703,33 +661,12 @@ void tst_TalvoBasicUtil::linkLoops()
     QCOMPARE(files, (QStringList{path("a/f"), path("a/to b/g"), path("b/g"), path("b/to a/f")}));
 }
 
-void tst_TalvoBasicUtil::deepTree()
+void tst_TalvoBasicUtil::metaObject()
 {
-    QVERIFY(makeDeepTree(QDir::currentPath(), 1900));
-    QStringList files;
-    runWithSmallStack([&files] { TalvoBasicUtil::getAllFiles(QDir::current(), files); });
-    QCOMPARE(files.size(), 1900);
-}
-
-void tst_TalvoBasicUtil::treeDeeperThanAPath()
-{
-    const QString top = QDir::current().absoluteFilePath(QStringLiteral("top"));
-    QVERIFY(QDir().mkdir(top));
-    const bool made = makeDeepTree(top, 5000);
-    QStringList files;
-    runWithSmallStack([&files, &top] { TalvoBasicUtil::getAllFiles(QDir(top), files); });
-    QStringList missing = files;
-    missing.erase(std::remove_if(missing.begin(), missing.end(),
-                                 [](const QString &f) { return QFileInfo::exists(f); }),
-                  missing.end());
-    // No function of Qt's deletes such a tree.
-    QVERIFY(removeDeepTree(top));
-    QVERIFY(made);
-    // As far as a path of the system's greatest length leads: the last folder that can be opened
-    // may have a file whose own path is too long.
-    QVERIFY2(files.size() > 1900 && files.size() < 2100, qPrintable(QString::number(files.size())));
-    missing.removeAll(files.last());
-    QCOMPARE(missing, QStringList());
+    const QMetaObject &metaObject = TalvoBasicUtil::staticMetaObject;
+    QCOMPARE(QByteArray(metaObject.className()), QByteArray("TalvoBasicUtil"));
+    QCOMPARE(metaObject.superClass(), &QObject::staticMetaObject);
+    QCOMPARE(lmtest::ownMethods(metaObject), QStringList());
 }
 
 void tst_TalvoBasicUtil::actionIcon()

@@ -94,6 +94,7 @@ private Q_SLOTS:
     void pictureIsStretched();
     void withoutPicture();
     void messageIsNotDrawn();
+    void beatsAreCounted();
     void beatRepaints();
     void keepsItsPicture();
     void nullPainter();
@@ -201,6 +202,16 @@ void tst_TalvoSplashScreen::messageIsNotDrawn()
     splash.beat();
     QCOMPARE(splash.message(), QStringLiteral("Loading..."));
     QCOMPARE(splash.drawn(), before);
+}
+
+void tst_TalvoSplashScreen::beatsAreCounted()
+{
+    TalvoSplashScreen splash(QStringLiteral("1"), QPixmap());
+    QCOMPARE(splash.m_beat, 1);
+    for (const int beat : {2, 3, 1, 2}) {
+        splash.beat();
+        QCOMPARE(splash.m_beat, beat);
+    }
 }
 
 void tst_TalvoSplashScreen::beatRepaints()

@@ -8,10 +8,16 @@
 
 #include <QByteArray>
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
+
+#include <unistd.h>
+#ifdef __linux__
+#include <sys/prctl.h>
+#endif
 
 namespace standins {
 
@@ -110,12 +116,65 @@ private:
 
     QString callsOf(const QString &name) const { return path(name + QStringLiteral(".calls")); }
 
+    friend class AsNobody;
     QTemporaryDir m_root;
     QString m_current;
     QByteArray m_home;
     QByteArray m_data;
     QByteArray m_tmp;
     QByteArray m_path;
+};
+
+/**
+ * Makes the program, while it lives, one for which permissions count: they stop everybody but root.
+ * Everything in @p world is that user's from then on.
+ */
+class AsNobody
+{
+public:
+    explicit AsNobody(const World &world)
+    {
+        if (getuid() != 0) {
+            m_isReady = true;
+            return;
+        }
+        const QString root = world.m_root.path();
+        bool given = ::chown(QFile::encodeName(root).constData(), Nobody, Nobody) == 0;
+        QDirIterator entries(root,
+                             QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                             QDirIterator::Subdirectories);
+        while (entries.hasNext()) {
+            const QByteArray path = QFile::encodeName(entries.next());
+            given = ::lchown(path.constData(), Nobody, Nobody) == 0 && given;
+        }
+        m_wasRoot = setresgid(Nobody, Nobody, 0) == 0 && setresuid(Nobody, Nobody, 0) == 0;
+        m_isReady = given && m_wasRoot;
+    }
+
+    ~AsNobody()
+    {
+        if (m_wasRoot && (setresuid(0, 0, 0) != 0 || setresgid(0, 0, 0) != 0)) {
+            qFatal("root cannot come back");
+        }
+#ifdef __linux__
+        // Changing users takes it away, and the leak sanitizer needs it.
+        prctl(PR_SET_DUMPABLE, 1);
+#endif
+    }
+
+    /** Whether permissions count now. */
+    explicit operator bool() const
+    {
+        return m_isReady;
+    }
+
+private:
+    Q_DISABLE_COPY(AsNobody)
+
+    static constexpr unsigned Nobody = 65534;
+
+    bool m_wasRoot = false;
+    bool m_isReady = false;
 };
 
 } // namespace standins
