@@ -44,9 +44,6 @@ void AccessibleEditComboBox::registerOnce()
 
 void AccessibleEditComboBox::nameLineEdit(EditComboBox *box)
 {
-    if (!QAccessible::isActive()) {
-        return;
-    }
     QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(box);
     QLineEdit *lineEdit = box->d->lineEdit;
     if (accessible && lineEdit->accessibleName() == lineEdit->property(givenName).toString()) {
