@@ -11,6 +11,7 @@
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QIcon>
+#include <QItemSelectionModel>
 #include <QLineEdit>
 #include <QListView>
 #include <QPushButton>
@@ -272,7 +273,9 @@ void EditComboBoxPrivate::announceText(const QString &text)
 void EditComboBoxPrivate::showAll()
 {
     const SignalScope scope(this);
-    completer->setCompletionPrefix(QString());
+    if (!restart(QString())) {
+        completer->setCompletionPrefix(QString());
+    }
     completer->setCurrentRow(currentIndex);
     open(completer);
 }
@@ -284,6 +287,21 @@ void EditComboBoxPrivate::showMatches()
         list->setCompletionPrefix(lineEdit->text());
         open(list);
     }
+}
+
+/**
+ * Does what setting the completion prefix to @p prefix does, if it has been set before, without
+ * laying out all rows again: what matches is the same. Returns whether that was possible.
+ */
+bool EditComboBoxPrivate::restart(const QString &prefix)
+{
+    QAbstractItemView *popup = completer->popup();
+    if (completer->completionPrefix() != prefix || popup->isVisible()) {
+        return false;
+    }
+    completer->setCurrentRow(0);
+    popup->selectionModel()->reset();
+    return true;
 }
 
 void EditComboBoxPrivate::open(QCompleter *list)

@@ -64,6 +64,7 @@ private:
     void activate(const QString &text);
     void finishEditing();
     void followText(const QString &text);
+    bool restart(const QString &prefix);
     void open(QCompleter *list);
     void giveToCompleter(QStringListModel *model);
     void updateRowHeights();

@@ -39,6 +39,7 @@ private Q_SLOTS:
     void modelIsReset();
     void otherEventsReachTheLineEdit();
     void rowHeights();
+    void openedAgainAsIfAnew();
     void longListWithSeveralLines();
 };
 
@@ -364,6 +365,51 @@ void tst_EditComboBoxList::rowHeights()
     QCOMPARE(height(1), height(0));
     QVERIFY(height(2) > height(0) * 3 / 2);
     QCOMPARE(height(3), height(0));
+}
+
+/** What there is to see of a list that was just opened. */
+static QStringList stateOfTheList(const EditComboBox &box)
+{
+    QAbstractItemView *list = popup(box);
+    return {QString::number(list->verticalScrollBar()->value()),
+            QString::number(list->currentIndex().row()),
+            QString::number(list->selectionModel()->selectedIndexes().size()),
+            QString::number(completer(box)->currentRow()),
+            QString::number(completer(box)->completionCount()),
+            QString::number(list->height())};
+}
+
+// A list that is opened twice in a row is not filled anew; nothing of that may show.
+void tst_EditComboBoxList::openedAgainAsIfAnew()
+{
+    QStringList entries;
+    for (int i = 0; i < 200; ++i) {
+        entries += QStringLiteral("entry %1").arg(i);
+    }
+    for (const int current : {-1, 0, 150}) {
+        QVector<QStringList> states;
+        for (const bool filledAnew : {true, false}) {
+            EditComboBox box(entries, nullptr);
+            show(box);
+            QTest::mouseClick(button(box), Qt::LeftButton);
+            QCoreApplication::processEvents();
+            QAbstractItemView *list = popup(box);
+            list->setCurrentIndex(list->model()->index(90, 0));
+            list->verticalScrollBar()->setValue(list->verticalScrollBar()->maximum());
+            QTest::keyClick(list, Qt::Key_Escape);
+            box.setCurrentIndex(current);
+            if (filledAnew) {
+                completer(box)->setCompletionPrefix(QStringLiteral("entry"));
+            } else {
+                QCOMPARE(completer(box)->completionPrefix(), QString());
+            }
+            QTest::mouseClick(button(box), Qt::LeftButton);
+            QCoreApplication::processEvents();
+            QVERIFY(list->isVisible());
+            states += stateOfTheList(box);
+        }
+        QCOMPARE(states.at(1), states.at(0));
+    }
 }
 
 void tst_EditComboBoxList::longListWithSeveralLines()
