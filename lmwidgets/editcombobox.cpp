@@ -284,7 +284,10 @@ void EditComboBoxPrivate::showMatches()
 {
     if (QCompleter *list = lineEdit->completer()) {
         const SignalScope scope(this);
-        list->setCompletionPrefix(lineEdit->text());
+        const QString text = lineEdit->text();
+        if (list != completer || !restart(text)) {
+            list->setCompletionPrefix(text);
+        }
         open(list);
     }
 }
