@@ -12,6 +12,7 @@
 #include <lmwidgets/customlayertablewidget.h>
 #include <lmwidgets/customlayertoolbutton.h>
 #include <lmwidgets/detailbutton.h>
+#include <lmwidgets/editcombobox.h>
 #include <lmwidgets/flowlayout.h>
 #include <lmwidgets/framelessdialog.h>
 #include <lmwidgets/framelesshelper.h>

@@ -1,11 +1,15 @@
 #include "lmtest.h"
 
+#include <lmwidgets/editcombobox.h>
 #include <lmwidgets/framelessdialog.h>
 #include <lmwidgets/framelessmessagebox.h>
 #include <lmwidgets/talvostylemanager.h>
 #include <lmwidgets/titlebar.h>
 
+#include <QAbstractItemView>
+#include <QCompleter>
 #include <QDir>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTimer>
 #include <QToolButton>
@@ -34,6 +38,8 @@ private Q_SLOTS:
     void dialog();
     void switchWhileShown();
     void messageBox();
+    void editComboBox_data() { themes(); }
+    void editComboBox();
 
 private:
     static void themes();
@@ -126,6 +132,24 @@ void tst_MissingTheme::messageBox()
     }
     QTimer::singleShot(0, qApp, [] { QApplication::activeModalWidget()->close(); });
     FramelessMessageBox::about(nullptr, QStringLiteral("Title"), QStringLiteral("Text"));
+}
+
+void tst_MissingTheme::editComboBox()
+{
+    QFETCH(int, theme);
+    TalvoStyleManager::instance()->shiftStyle(TalvoStyleManager::ThemeStyleType(theme));
+    LM::Widgets::EditComboBox box({"a", "b"}, nullptr);
+    box.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&box));
+    auto *button = box.findChild<QPushButton *>();
+    QVERIFY(button->icon().pixmap(20, 20).isNull());
+    QCOMPARE(button->size(), QSize(20, 20));
+    QTest::mouseClick(button, Qt::LeftButton);
+    QAbstractItemView *list = box.findChild<QLineEdit *>()->completer()->popup();
+    QVERIFY(list->isVisible());
+    TalvoStyleManager::instance()->shiftStyle(TalvoStyleManager::White);
+    QVERIFY(list->isVisible());
+    QVERIFY(!box.grab().isNull());
 }
 
 LMTEST_MAIN(tst_MissingTheme)

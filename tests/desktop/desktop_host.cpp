@@ -4,6 +4,7 @@
  */
 
 #include "containersscenario.h"
+#include "editcomboscenario.h"
 #include "layerscenario.h"
 #include "reporter.h"
 
@@ -284,6 +285,7 @@ QHash<QString, std::function<void()>> scenarios()
          [] { QTimer::singleShot(0, [] { askWithStandardButtons(nullptr); }); }},
         {QStringLiteral("panel"), runPanel},
         {QStringLiteral("layers"), runLayers},
+        {QStringLiteral("editcombo"), runEditCombo},
         {QStringLiteral("maximized-first"),
          [] { makeDialogWithTitleButtons(nullptr)->showMaximized(); }},
     };
