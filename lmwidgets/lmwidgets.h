@@ -5,12 +5,14 @@
  * Includes every public header of the library.
  */
 
+#include <lmwidgets/buttonlefthavegreendots.h>
 #include <lmwidgets/checkboxheaderview.h>
 #include <lmwidgets/collapsiblegroupbox.h>
 #include <lmwidgets/collapsiblegroupboxbasic.h>
 #include <lmwidgets/customdelegate.h>
 #include <lmwidgets/customlayertablewidget.h>
 #include <lmwidgets/customlayertoolbutton.h>
+#include <lmwidgets/customspinbox.h>
 #include <lmwidgets/detailbutton.h>
 #include <lmwidgets/flowlayout.h>
 #include <lmwidgets/framelessdialog.h>
@@ -18,10 +20,13 @@
 #include <lmwidgets/framelessmessagebox.h>
 #include <lmwidgets/frameline.h>
 #include <lmwidgets/groupboxcollapsebutton.h>
+#include <lmwidgets/hyperlinklabel.h>
 #include <lmwidgets/kvitemdoublespinboxdelegate.h>
 #include <lmwidgets/kvitemlineeditdelegate.h>
 #include <lmwidgets/linetypecombobox.h>
 #include <lmwidgets/lmwidgets_global.h>
+#include <lmwidgets/qcustomtabbar.h>
+#include <lmwidgets/qcustomtabwidget.h>
 #include <lmwidgets/qmessageboxdetailstext.h>
 #include <lmwidgets/talvoanimatedicon.h>
 #include <lmwidgets/talvobasicutil.h>
@@ -29,5 +34,6 @@
 #include <lmwidgets/talvosplashscreen.h>
 #include <lmwidgets/talvostylemanager.h>
 #include <lmwidgets/titlebar.h>
+#include <lmwidgets/vantorotoolbutton.h>
 
 #endif
