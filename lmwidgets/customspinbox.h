@@ -16,7 +16,7 @@ namespace Widgets {
  * When the user has deleted all text with Backspace or Delete, the value becomes 0 and the field
  * stays empty, also when it loses the focus or Return is pressed; a stock QDoubleSpinBox would put
  * the last number back. A range without 0 makes the value the bound that is nearest to it. What the
- * user types next, or setValue(), shows a number again; Qt does not step in an empty field. A field
+ * user types next, or setValue(), shows a number again, and so does the first step. A field
  * with a prefix or a suffix is never without text, and one whose range is a single number cannot be
  * emptied: both behave like a stock one.
  *

@@ -198,13 +198,12 @@ void tst_CustomSpinBox::blankEndsWithANumber()
     form.box->setValue(42);
     QCOMPARE(form.box->text(), form.box->textFromValue(42));
 
-    // Qt steps from a number only, so that there is none to step from in an empty field.
+    // Qt steps from a number only, so that the first step merely shows the one that is there.
     form.box->selectAll();
     form.press(Qt::Key_Delete);
     form.press(Qt::Key_Up);
     QCOMPARE(form.box->value(), 0.0);
-    QCOMPARE(form.box->text(), QString());
-    QTest::keyClicks(form.box, QStringLiteral("0"));
+    QCOMPARE(form.box->text(), form.box->textFromValue(0.0));
     form.press(Qt::Key_Up);
     QCOMPARE(form.box->value(), 1.0);
     QCOMPARE(form.box->text(), form.box->textFromValue(1.0));

@@ -97,6 +97,7 @@ QRect scaled(const QRect &rect, int ratio)
 void addTabs(QTabBar &bar)
 {
     bar.setShape(QTabBar::RoundedWest);
+    bar.setExpanding(false); // or the tabs fill the bar
     bar.addTab(QStringLiteral("Import"));
     bar.addTab(QStringLiteral("Classify"));
     bar.addTab(QStringLiteral("Export"));
@@ -171,11 +172,9 @@ void tst_QCustomTabBar::colorOfATabThatIsNotThere()
 {
     QCustomTabBar bar;
     QVERIFY(!bar.getCircleColor(5).isValid());
-    for (int i = 0; i < 6; ++i) {
-        bar.addTab(QString::number(i));
-    }
-    bar.setShape(QTabBar::RoundedWest);
-    bar.resize(bar.sizeHint());
+    addTabs(bar);
+    addTabs(bar);
+    QCOMPARE(bar.count(), 6);
     QVERIFY(!bar.getCircleColor(5).isValid());
     const QRect tab = bar.tabRect(5);
     QCOMPARE(picture(bar).pixelColor(tab.left() + 7, tab.center().y()), Green);
@@ -241,10 +240,26 @@ void tst_QCustomTabBar::dot()
     const QColor colors[] = {Qt::red, Green, Qt::magenta};
     for (int i = 0; i < bar.count(); ++i) {
         const QRect tab = bar.tabRect(i);
-        const QRect place(tab.left() + 7 - 3, tab.center().y() - 3, 6, 6);
-        const QRect found = bounds(image, scaled(tab, ratio),
-                                   [&](const QColor &color) { return color == colors[i]; });
-        QCOMPARE(found, scaled(place, ratio));
+        QImage expected(image.size(), QImage::Format_RGB32);
+        expected.setDevicePixelRatio(ratio);
+        expected.fill(Ground);
+        QPainter painter(&expected);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(colors[i]);
+        painter.drawEllipse(tab.left() + 7 - 3, tab.center().y() - 3, 6, 6);
+        painter.end();
+        const QRect area = scaled(tab, ratio);
+        for (int y = area.top(); y <= area.bottom(); ++y) {
+            for (int x = area.left(); x <= area.right(); ++x) {
+                QCOMPARE(image.pixelColor(x, y) == colors[i],
+                         expected.pixelColor(x, y) == colors[i]);
+            }
+        }
+        const QRect found =
+            bounds(image, area, [&](const QColor &color) { return color == colors[i]; });
+        QCOMPARE(found.left(), (tab.left() + 4) * ratio);
+        QCOMPARE(found.width(), 6 * ratio);
+        QCOMPARE(found.bottom(), (tab.center().y() + 3) * ratio - 1);
         // Round, and not a square.
         QVERIFY(image.pixelColor(found.topLeft()) != colors[i]);
         QVERIFY(image.pixelColor(found.bottomRight()) != colors[i]);
@@ -300,7 +315,7 @@ void tst_QCustomTabBar::text()
     painter.end();
     QCOMPARE(image, expected);
     const QRect glyphs =
-        bounds(image, image.rect(), [](const QColor &color) { return color == QColor(Qt::white); });
+        bounds(image, image.rect(), [](const QColor &color) { return color.lightness() > 140; });
     QVERIFY(glyphs.isValid() && glyphs.left() >= 15 * ratio);
 }
 
@@ -322,15 +337,12 @@ void tst_QCustomTabBar::ground()
     bar.setPalette(palette);
     bar.setStyleSheet(styleSheet);
     addTabs(bar);
-    bar.resize(bar.width() + 40, bar.height() + 60);
+    bar.resize(bar.sizeHint() + QSize(40, 60));
     const QImage image = picture(bar);
     const int below = bar.tabRect(2).bottom() + 3;
     const QRect rest(0, below, bar.width(), bar.height() - below);
     QCOMPARE(bounds(image, rest, [](const QColor &color) { return color == Ground; }), rest);
     QVERIFY(!bounds(image, rest, [](const QColor &color) { return color != Ground; }).isValid());
-    QVERIFY(!bounds(image, image.rect(), [](const QColor &color) {
-                 return color == QColor(Qt::yellow);
-             }).isValid());
 }
 
 void tst_QCustomTabBar::shapes()
@@ -431,6 +443,7 @@ void tst_QCustomTabBar::sizes()
     bar.addTab(QStringLiteral("Import of all the files of a survey"));
     bar.addTab(QString());
     bar.setShape(static_cast<QTabBar::Shape>(shape));
+    bar.setExpanding(false);
     for (int i = 0; i < bar.count(); ++i) {
         QCOMPARE(bar.size(i), bar.stockSize(i).transposed());
     }
@@ -525,14 +538,12 @@ void tst_QCustomTabBar::accessibleTabs()
 {
     QCustomTabBar bar;
     addTabs(bar);
-    bar.setAccessibleName(QStringLiteral("Steps"));
     bar.setCurrentIndex(1);
     bar.show();
     QVERIFY(QTest::qWaitForWindowExposed(&bar));
     QAccessibleInterface *list = QAccessible::queryAccessibleInterface(&bar);
     QVERIFY(list);
     QCOMPARE(list->role(), QAccessible::PageTabList);
-    QCOMPARE(list->text(QAccessible::Name), QStringLiteral("Steps"));
     QStringList names;
     for (int i = 0; i < list->childCount(); ++i) {
         QAccessibleInterface *tab = list->child(i);
@@ -545,6 +556,7 @@ void tst_QCustomTabBar::accessibleTabs()
         QCOMPARE(tab->rect(), place);
         QCOMPARE(tab->parent()->object(), static_cast<QObject *>(&bar));
         QCOMPARE(list->indexOfChild(tab), i);
+        QCOMPARE(bool(tab->state().focused), index == bar.currentIndex());
     }
     const QStringList expected{QStringLiteral("Import"), QStringLiteral("Classify"),
                                QStringLiteral("Export")};
