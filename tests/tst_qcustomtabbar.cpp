@@ -484,18 +484,12 @@ void tst_QCustomTabBar::selectsByKeyboard()
     QVERIFY(QTest::qWaitForWindowExposed(&bar));
     QApplication::setActiveWindow(&bar);
     bar.setFocus();
-    QTest::keyClick(&bar, Qt::Key_Down);
     QTest::keyClick(&bar, Qt::Key_Right);
-    const int after = bar.currentIndex();
-    QTabBar stock;
-    addTabs(stock);
-    stock.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&stock));
-    stock.setFocus();
-    QTest::keyClick(&stock, Qt::Key_Down);
-    QTest::keyClick(&stock, Qt::Key_Right);
-    QVERIFY(after > 0);
-    QCOMPARE(after, stock.currentIndex());
+    QTest::keyClick(&bar, Qt::Key_Right);
+    QCOMPARE(bar.currentIndex(), 2);
+    bar.setTabEnabled(1, false);
+    QTest::keyClick(&bar, Qt::Key_Left);
+    QCOMPARE(bar.currentIndex(), 0);
 }
 
 void tst_QCustomTabBar::noTabs()

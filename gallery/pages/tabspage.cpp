@@ -95,13 +95,14 @@ QWidget *createContent(SignalLog &log)
 {
     auto *content = new QWidget;
     auto *layout = contentLayout(content);
-    auto *body = addSection(layout, QStringLiteral("The steps of a process"),
-                            QStringLiteral("Select a step by mouse, or by the arrow keys when the "
-                                           "tabs have the focus. The dot of a step tells its "
-                                           "state, and so does its tool tip."));
+    auto *body =
+        addSection(layout, QStringLiteral("The steps of a process"),
+                   QStringLiteral("Select a step by mouse, or by the left and right arrow "
+                                  "keys when the tabs have the focus. The dot of a step tells its "
+                                  "state, and so does its tool tip."));
     auto *tabs = new StepTabs;
     log.watch(tabs, QStringLiteral("tabs"));
-    body->addWidget(row({framed(tabs)}));
+    body->addWidget(row({tabs}));
     body->addWidget(row({button(QStringLiteral("Next step"), [tabs] { tabs->goOn(false); }),
                          button(QStringLiteral("Step fails"), [tabs] { tabs->goOn(true); }),
                          button(QStringLiteral("Restart"), [tabs] { tabs->restart(); })}));
