@@ -1,5 +1,7 @@
 #include <lmwidgets/qcustomtabbar.h>
 
+#include "accessiblecustomtabbar_p.h"
+
 #include <QPainter>
 #include <QPalette>
 #include <QStyle>
@@ -18,7 +20,10 @@ constexpr int TextPosition = 15; // from the left edge of the tab
 
 } // namespace
 
-QCustomTabBar::QCustomTabBar(QWidget *parent) : QTabBar(parent) {}
+QCustomTabBar::QCustomTabBar(QWidget *parent) : QTabBar(parent)
+{
+    installAccessibleCustomTabBar();
+}
 
 QCustomTabBar::~QCustomTabBar() = default;
 

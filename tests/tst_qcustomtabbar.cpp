@@ -137,6 +137,9 @@ private Q_SLOTS:
     void accessibleTabs();
     void accessibleMeaningOfTheDot();
     void accessiblePress();
+    void accessibleStates();
+    void accessibleNames();
+    void accessibleTabsComeAndGo();
 };
 
 void tst_QCustomTabBar::newBar()
@@ -532,12 +535,14 @@ void tst_QCustomTabBar::accessibleTabs()
 {
     QCustomTabBar bar;
     addTabs(bar);
+    bar.setAccessibleName(QStringLiteral("Steps"));
     bar.setCurrentIndex(1);
     bar.show();
     QVERIFY(QTest::qWaitForWindowExposed(&bar));
     QAccessibleInterface *list = QAccessible::queryAccessibleInterface(&bar);
     QVERIFY(list);
     QCOMPARE(list->role(), QAccessible::PageTabList);
+    QCOMPARE(list->text(QAccessible::Name), QStringLiteral("Steps"));
     QStringList names;
     for (int i = 0; i < list->childCount(); ++i) {
         QAccessibleInterface *tab = list->child(i);
@@ -550,7 +555,9 @@ void tst_QCustomTabBar::accessibleTabs()
         QCOMPARE(tab->rect(), place);
         QCOMPARE(tab->parent()->object(), static_cast<QObject *>(&bar));
         QCOMPARE(list->indexOfChild(tab), i);
-        QCOMPARE(bool(tab->state().focused), index == bar.currentIndex());
+        QCOMPARE(bool(tab->state().selected), index == bar.currentIndex());
+        QVERIFY(!tab->state().invisible && !tab->state().disabled && tab->state().selectable);
+        QCOMPARE(list->childAt(place.center().x(), place.center().y()), tab);
     }
     const QStringList expected{QStringLiteral("Import"), QStringLiteral("Classify"),
                                QStringLiteral("Export")};
@@ -584,6 +591,74 @@ void tst_QCustomTabBar::accessiblePress()
     QVERIFY(action->actionNames().contains(QAccessibleActionInterface::pressAction()));
     action->doAction(QAccessibleActionInterface::pressAction());
     QCOMPARE(bar.currentIndex(), 2);
+}
+
+void tst_QCustomTabBar::accessibleStates()
+{
+    QCustomTabBar bar;
+    addTabs(bar);
+    bar.setFocusPolicy(Qt::StrongFocus);
+    QAccessibleInterface *list = QAccessible::queryAccessibleInterface(&bar);
+    QVERIFY(list->child(0)->state().invisible);
+    bar.show();
+    QVERIFY(QTest::qWaitForWindowActive(&bar));
+    bar.setFocus();
+    QTRY_VERIFY(bar.hasFocus());
+    QVERIFY(!list->child(0)->state().invisible);
+    QVERIFY(list->child(0)->state().focused && list->child(0)->state().focusable);
+    QCOMPARE(list->focusChild(), list->child(0));
+    QVERIFY(!list->child(1)->state().focused);
+    bar.clearFocus();
+    QVERIFY(!list->child(0)->state().focused && list->child(0)->state().selected);
+
+    bar.setTabEnabled(2, false);
+    const QAccessible::State disabled = list->child(2)->state();
+    QVERIFY(disabled.disabled && !disabled.selectable && !disabled.focusable);
+    QVERIFY(list->child(2)->actionInterface()->actionNames().isEmpty());
+    list->child(2)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QCOMPARE(bar.currentIndex(), 0);
+    list->child(1)->actionInterface()->doAction(QStringLiteral("no such action"));
+    QCOMPARE(bar.currentIndex(), 0);
+}
+
+void tst_QCustomTabBar::accessibleNames()
+{
+    QCustomTabBar bar;
+    bar.addTab(QStringLiteral("&Save && load&"));
+    bar.setTabWhatsThis(0, QStringLiteral("Saves"));
+    const QAccessibleInterface *tab = QAccessible::queryAccessibleInterface(&bar)->child(0);
+    QCOMPARE(tab->text(QAccessible::Name), QStringLiteral("Save & load"));
+    QCOMPARE(tab->text(QAccessible::Accelerator),
+             QKeySequence(Qt::ALT | Qt::Key_S).toString(QKeySequence::NativeText));
+    QCOMPARE(tab->text(QAccessible::Help), QStringLiteral("Saves"));
+    QCOMPARE(tab->text(QAccessible::Value), QString());
+    bar.setAccessibleTabName(0, QStringLiteral("Files"));
+    QCOMPARE(tab->text(QAccessible::Name), QStringLiteral("Files"));
+}
+
+void tst_QCustomTabBar::accessibleTabsComeAndGo()
+{
+    auto bar = std::make_unique<QCustomTabBar>();
+    QAccessibleInterface *list = QAccessible::queryAccessibleInterface(bar.get());
+    QVERIFY(!list->child(-1));
+    QVERIFY(!list->child(1000));
+    addTabs(*bar);
+    const int others = list->childCount() - 3;
+    QAccessibleInterface *last = list->child(2);
+    const QAccessible::Id id = QAccessible::uniqueId(last);
+    QVERIFY(last->isValid());
+    bar->removeTab(0);
+    QCOMPARE(list->childCount(), 2 + others);
+    QVERIFY(!last->isValid());
+    QVERIFY(last->state().invalid);
+    QCOMPARE(last->text(QAccessible::Name), QString());
+    QCOMPARE(last->rect(), QRect());
+    QCOMPARE(list->child(1)->text(QAccessible::Name), QStringLiteral("Export"));
+    for (int i = 0; i < list->childCount(); ++i) {
+        QCOMPARE(list->indexOfChild(list->child(i)), i);
+    }
+    bar.reset();
+    QVERIFY(!QAccessible::accessibleInterface(id));
 }
 
 LMTEST_MAIN(tst_QCustomTabBar)
