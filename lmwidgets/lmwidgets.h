@@ -5,12 +5,14 @@
  * Includes every public header of the library.
  */
 
+#include <lmwidgets/buttonlefthavegreendots.h>
 #include <lmwidgets/checkboxheaderview.h>
 #include <lmwidgets/collapsiblegroupbox.h>
 #include <lmwidgets/collapsiblegroupboxbasic.h>
 #include <lmwidgets/customdelegate.h>
 #include <lmwidgets/customlayertablewidget.h>
 #include <lmwidgets/customlayertoolbutton.h>
+#include <lmwidgets/customspinbox.h>
 #include <lmwidgets/detailbutton.h>
 #include <lmwidgets/editcombobox.h>
 #include <lmwidgets/flowlayout.h>
@@ -19,10 +21,13 @@
 #include <lmwidgets/framelessmessagebox.h>
 #include <lmwidgets/frameline.h>
 #include <lmwidgets/groupboxcollapsebutton.h>
+#include <lmwidgets/hyperlinklabel.h>
 #include <lmwidgets/kvitemdoublespinboxdelegate.h>
 #include <lmwidgets/kvitemlineeditdelegate.h>
 #include <lmwidgets/linetypecombobox.h>
 #include <lmwidgets/lmwidgets_global.h>
+#include <lmwidgets/qcustomtabbar.h>
+#include <lmwidgets/qcustomtabwidget.h>
 #include <lmwidgets/qmessageboxdetailstext.h>
 #include <lmwidgets/roundcheckbox.h>
 #include <lmwidgets/talvoanimatedicon.h>
@@ -33,5 +38,6 @@
 #include <lmwidgets/titlebar.h>
 #include <lmwidgets/toggleswitch.h>
 #include <lmwidgets/vantoroframelessdialog.h>
+#include <lmwidgets/vantorotoolbutton.h>
 
 #endif

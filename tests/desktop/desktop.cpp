@@ -154,11 +154,17 @@ QString Desktop::pointerPicture() const
     return run(programFile(QStringLiteral("desktop_pointer_picture")), {});
 }
 
-Host::Host(const Desktop &desktop, const QString &scenario) : m_scenario(scenario)
+Host::Host(const Desktop &desktop, const QString &scenario, const QString &programs)
+    : m_scenario(scenario)
 {
     connect(&m_process, &QProcess::readyReadStandardOutput, this, &Host::readLines);
     m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    m_process.setProcessEnvironment(desktop.environment());
+    QProcessEnvironment environment = desktop.environment();
+    if (!programs.isEmpty()) {
+        const QString path = QStringLiteral("PATH");
+        environment.insert(path, programs + QLatin1Char(':') + environment.value(path));
+    }
+    m_process.setProcessEnvironment(environment);
     m_process.start(programFile(QStringLiteral("desktop_host")), {scenario});
 }
 

@@ -60,7 +60,8 @@ class Host : public QObject
     Q_OBJECT
 
 public:
-    Host(const Desktop &desktop, const QString &scenario);
+    /** With @p programs, a folder, the host finds the programs there before those of the system. */
+    Host(const Desktop &desktop, const QString &scenario, const QString &programs = QString());
     ~Host() override;
 
     /** From here on waitFor() and hasSaid() look only at what the host says afterwards. */

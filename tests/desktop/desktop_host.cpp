@@ -7,6 +7,7 @@
 #include "editcomboscenario.h"
 #include "layerscenario.h"
 #include "reporter.h"
+#include "smallwidgetsscenario.h"
 
 #include <lmwidgets/framelessdialog.h>
 #include <lmwidgets/framelessmessagebox.h>
@@ -286,6 +287,8 @@ QHash<QString, std::function<void()>> scenarios()
         {QStringLiteral("panel"), runPanel},
         {QStringLiteral("layers"), runLayers},
         {QStringLiteral("editcombo"), runEditCombo},
+        {QStringLiteral("small"), runSmallWidgets},
+        {QStringLiteral("desktop-link"), runDesktopLink},
         {QStringLiteral("maximized-first"),
          [] { makeDialogWithTitleButtons(nullptr)->showMaximized(); }},
     };
