@@ -16,6 +16,7 @@
 #include <lmwidgets/framelessdialog.h>
 #include <lmwidgets/framelesshelper.h>
 #include <lmwidgets/framelessmessagebox.h>
+#include <lmwidgets/framelessprocessdialog.h>
 #include <lmwidgets/frameline.h>
 #include <lmwidgets/groupboxcollapsebutton.h>
 #include <lmwidgets/kvitemdoublespinboxdelegate.h>
