@@ -50,8 +50,6 @@ private Q_SLOTS:
     void deleteInSlot_data();
     void deleteInSlot();
     void deleteOnValueChanged();
-    void deleteOnShow_data();
-    void deleteOnShow();
     void deleteOnHide_data();
     void deleteOnHide();
     void deleteOnPartDestroyed_data();
@@ -257,57 +255,6 @@ void tst_FramelessProcessDialogReentrancy::deleteOnValueChanged()
     connect(dialog->bar(), &QProgressBar::valueChanged, qApp, [&] { delete dialog; });
     dialog->setValue(10);
     QVERIFY(!dialog);
-}
-
-void tst_FramelessProcessDialogReentrancy::deleteOnShow_data()
-{
-    QTest::addColumn<bool>("byTimer");
-    QTest::newRow("timer") << true;
-    QTest::newRow("value") << false;
-}
-
-namespace {
-
-/** Deletes the dialog when it hears of an event. */
-class Deleter : public QObject
-{
-public:
-    Deleter(Dialog *dialog, QEvent::Type type) : m_dialog(dialog), m_type(type)
-    {
-        dialog->installEventFilter(this);
-    }
-
-protected:
-    bool eventFilter(QObject *, QEvent *event) override
-    {
-        if (event->type() != m_type) {
-            return false;
-        }
-        m_dialog->deleteLater();
-        QCoreApplication::sendPostedEvents(m_dialog, QEvent::DeferredDelete);
-        return false;
-    }
-
-private:
-    QPointer<Dialog> m_dialog;
-    QEvent::Type m_type;
-};
-
-} // namespace
-
-void tst_FramelessProcessDialogReentrancy::deleteOnShow()
-{
-    QFETCH(bool, byTimer);
-    const QPointer<Dialog> dialog(new Dialog);
-    Deleter deleter(dialog, QEvent::Show);
-    dialog->setMinimumDuration(0);
-    if (byTimer) {
-        dialog->setValue(0);
-        QTRY_VERIFY(!dialog || dialog->isVisible());
-    } else {
-        dialog->setValue(1);
-    }
-    QTRY_VERIFY(!dialog);
 }
 
 void tst_FramelessProcessDialogReentrancy::deleteOnHide_data()

@@ -5,6 +5,7 @@
 
 #include "containersscenario.h"
 #include "layerscenario.h"
+#include "progressscenario.h"
 #include "reporter.h"
 
 #include <lmwidgets/framelessdialog.h>
@@ -284,6 +285,7 @@ QHash<QString, std::function<void()>> scenarios()
          [] { QTimer::singleShot(0, [] { askWithStandardButtons(nullptr); }); }},
         {QStringLiteral("panel"), runPanel},
         {QStringLiteral("layers"), runLayers},
+        {QStringLiteral("progress"), runProgress},
         {QStringLiteral("maximized-first"),
          [] { makeDialogWithTitleButtons(nullptr)->showMaximized(); }},
     };
