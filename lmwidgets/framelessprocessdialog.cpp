@@ -171,7 +171,11 @@ void FramelessProcessDialogPrivate::replace(QPointer<Widget> *place, Widget *wid
         widget->setParent(q, Qt::WindowFlags());
     }
     *place = widget;
-    delete previous;
+    if (previous) {
+        // As a child it would be deleted twice if a receiver of its destroyed() deletes the dialog.
+        previous->setParent(nullptr);
+        delete previous;
+    }
     if (guard && *place == replacement) {
         adopt(replacement);
     }
