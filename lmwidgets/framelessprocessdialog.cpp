@@ -49,6 +49,27 @@ constexpr int MaximumPumping = 8;
 
 constexpr int MaximumPercent = 100;
 
+/**
+ * The dialog's own label. Its hint lets the longest word fit: the dialog takes less for the label
+ * from its own width than the label asks for, which a text that wraps makes good in height only.
+ */
+class TextLabel : public QLabel
+{
+public:
+    using QLabel::QLabel;
+
+    QSize sizeHint() const override
+    {
+        const QSize hint = QLabel::sizeHint();
+        const int room = qMax(hint.width() + HintWidth, MinimumHintWidth) - 2 * Margin;
+        const int longestWord = minimumSizeHint().width();
+        if (longestWord <= room) {
+            return hint;
+        }
+        return {longestWord + 2 * Margin - HintWidth, hint.height()};
+    }
+};
+
 bool isInside(const QWidget *widget, const QWidget *ancestor)
 {
     while (widget && widget != ancestor) {
@@ -64,7 +85,7 @@ void FramelessProcessDialogPrivate::init(const QString &labelText, const QString
 {
     titleLabel = new QLabel(QString(), q);
     titleLabel->setObjectName(QStringLiteral("processdialogtitlelabel"));
-    label = new QLabel(labelText, q);
+    label = new TextLabel(labelText, q);
     label->setWordWrap(true);
     percentLabel = new QLabel(QString(), q);
     bar = new QProgressBar(q);

@@ -30,7 +30,8 @@ class FramelessProcessDialogPrivate;
  *   button takes no keyboard focus; a caption with an ampersand gives it a key.
  * - The children are placed by hand; the dialog grows to its sizeHint() when they change.
  * - The window has no frame and is not moved by the mouse.
- * - The label is 48 px narrower than the dialog: a single word wider than that is cut off.
+ * - The label is 48 px narrower than the dialog. A label of the host's own with a word as wide as
+ *   itself gets less than it asks for, and the word is cut off.
  *
  * @code
  * LM::Widgets::FramelessProcessDialog progress(tr("Copying tiles..."), tr("Stop"), 0, count, this);

@@ -99,6 +99,7 @@ private Q_SLOTS:
     void places();
     void withoutButton();
     void sizeHint();
+    void longWords();
     void growing();
     void styleChange();
 
@@ -262,6 +263,26 @@ void tst_FramelessProcessDialogParts::sizeHint()
     QCOMPARE(dialog.sizeHint(), QSize(201, height(40)));
     dialog.setLabel(nullptr);
     QCOMPARE(dialog.sizeHint(), QSize(200, height(0)));
+}
+
+void tst_FramelessProcessDialogParts::longWords()
+{
+    const QString word = QStringLiteral("Hoehenbezugssystemumrechnungstabellenzeilennummer");
+    Dialog dialog(QStringLiteral("The ") + word + QStringLiteral(" is read."), QString(), 0, 100);
+    QLabel plain(dialog.labelText());
+    plain.setWordWrap(true);
+    const int wordWidth = plain.minimumSizeHint().width();
+    QVERIFY(wordWidth > 200);
+    dialog.show();
+    QCOMPARE(dialog.width(), dialog.label()->sizeHint().width() + 30);
+    QVERIFY(dialog.label()->width() >= wordWidth);
+    // Words that fit leave the hint as that of any label.
+    for (const int words : {0, 1, 3, 30, 300}) {
+        const QString text = QStringLiteral("word ").repeated(words);
+        dialog.setLabelText(text);
+        plain.setText(text);
+        QCOMPARE(dialog.label()->sizeHint(), plain.sizeHint());
+    }
 }
 
 void tst_FramelessProcessDialogParts::growing()
