@@ -139,7 +139,7 @@ public:
 
 public Q_SLOTS:
     /** Resets the dialog, hides it even without autoClose, and sets wasCanceled. It does not emit
-     * canceled(). */
+     * canceled(). A setValue() after that may show it again: see wasCanceled() first. */
     void cancel();
     /** Takes the dialog back to its start: no value, "0%", not canceled; hidden with autoClose. */
     void reset();

@@ -49,15 +49,23 @@ private:
 class FixedHint : public QProgressBar
 {
 public:
-    QSize sizeHint() const override { return {90, 20}; }
+    explicit FixedHint(int height = 20) : m_height(height) {}
+    QSize sizeHint() const override { return {90, m_height}; }
     // Else the style's smallest size would hold up the geometry.
     QSize minimumSizeHint() const override { return {0, 0}; }
+
+private:
+    int m_height;
 };
 
 class FixedButton : public QPushButton
 {
 public:
-    QSize sizeHint() const override { return {80, 30}; }
+    explicit FixedButton(int height = 30) : m_height(height) {}
+    QSize sizeHint() const override { return {80, m_height}; }
+
+private:
+    int m_height;
 };
 
 /** The same numbers, worked out step by step by hand for spacing 10, bar 20 and button 80 x 30. */
@@ -95,6 +103,7 @@ class tst_FramelessProcessDialogParts : public lmtest::TestCase
 private Q_SLOTS:
     void smallHeights_data();
     void smallHeights();
+    void floors();
     void everySize();
     void places();
     void withoutButton();
@@ -182,6 +191,24 @@ void tst_FramelessProcessDialogParts::smallHeights()
     QCOMPARE(dialog.percent()->geometry(), QRect(238, barTop, 38, barHeight));
     QCOMPARE(dialog.button()->geometry(), QRect(110, buttonTop, 80, buttonHeight));
     QCOMPARE(dialog.title()->geometry(), QRect(15, 13, 280, 30));
+}
+
+void tst_FramelessProcessDialogParts::floors()
+{
+    // Less than 4 px is left of either part after the first halving of so much spacing.
+    NumbersStyle style(40, true);
+    Dialog dialog;
+    dialog.setStyle(&style);
+    auto *bar = new FixedHint(12);
+    dialog.setBar(bar);
+    dialog.setCancelButton(new FixedButton(20));
+    dialog.show();
+    // All five attempts fail; the spacing ends at 1 and the margin at 0.
+    dialog.resize(300, 100);
+    QCOMPARE(dialog.label()->height(), 100 - (2 * 2 + 78) - (4 + 2) - 1 - 4);
+    QCOMPARE(bar->geometry(), QRect(24, 7 + 1 + 48, 206, 4));
+    QCOMPARE(dialog.percent()->height(), 4);
+    QCOMPARE(dialog.button()->geometry(), QRect(110, 96, 80, 4));
 }
 
 void tst_FramelessProcessDialogParts::everySize()

@@ -104,7 +104,12 @@ void workInThread(QWidget *page, SignalLog &log)
         QStringLiteral("Import"), QStringLiteral("Reading points in a thread..."), page->window());
     log.watch(dialog, QStringLiteral("worker"));
     auto *worker = new Worker(dialog);
-    QObject::connect(worker, &Worker::progressed, dialog, &FramelessProcessDialog::setValue);
+    // Values are on their way when the user cancels. They would show the dialog again.
+    QObject::connect(worker, &Worker::progressed, dialog, [dialog](int tile) {
+        if (!dialog->wasCanceled()) {
+            dialog->setValue(tile);
+        }
+    });
     QObject::connect(dialog, &FramelessProcessDialog::canceled, worker, &Worker::stop);
     // The values that the worker had posted before it stopped are taken by then.
     QObject::connect(worker, &QThread::finished, dialog, [dialog, &log] {
