@@ -436,8 +436,11 @@ void tst_FramelessProcessDialog::forceShow()
     dialog.forceShow(); // once only
     QVERIFY(dialog.isHidden());
     dialog.cancel();
+    dialog.setValue(0);
+    QVERIFY(dialog.timer()->isActive());
     dialog.forceShow();
     QVERIFY(dialog.isHidden());
+    QVERIFY(!dialog.timer()->isActive());
     dialog.reset();
     dialog.forceShow();
     QVERIFY(dialog.isVisible());

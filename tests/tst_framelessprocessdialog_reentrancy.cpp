@@ -1,6 +1,7 @@
 #include "processdialogtest.h"
 
 #include <QAction>
+#include <QElapsedTimer>
 #include <QWindow>
 
 #include <functional>
@@ -37,6 +38,7 @@ class tst_FramelessProcessDialogReentrancy : public lmtest::TestCase
 private Q_SLOTS:
     void modelessRunsNoEvents();
     void setValueWithinSetValue();
+    void manyWithinSetValue();
     void lastValueWithinSetValue();
     void cancelWithinSetValue();
     void resetWithinSetValue();
@@ -88,6 +90,38 @@ void tst_FramelessProcessDialogReentrancy::setValueWithinSetValue()
     QCOMPARE(dialog->value(), 60);
     QCOMPARE(dialog->percent()->text(), QStringLiteral("60%"));
     QVERIFY(dialog->isVisible());
+}
+
+void tst_FramelessProcessDialogReentrancy::manyWithinSetValue()
+{
+    // Timers, as not every event dispatcher runs posted events within a posted event.
+    constexpr int events = 300;
+    const QScopedPointer<Dialog> dialog(makeModal(1000000));
+    int depth = 0;
+    int deepest = 0;
+    int value = 10;
+    QVector<int> seen;
+    for (int i = 0; i < events; ++i) {
+        auto *timer = new QTimer(dialog.data());
+        timer->setSingleShot(true);
+        connect(timer, &QTimer::timeout, timer, [&] {
+            deepest = qMax(deepest, ++depth);
+            dialog->setValue(++value);
+            seen += value;
+            --depth;
+        });
+        timer->start(1);
+    }
+    QElapsedTimer due;
+    due.start();
+    while (due.elapsed() < 3) {
+    }
+    dialog->setValue(2);
+    QTRY_COMPARE(seen.count(), events);
+    QCOMPARE(dialog->value(), 10 + events);
+    // A job within a job still runs events, but a storm of them does not grow the stack.
+    QVERIFY2(deepest > 1, qPrintable(QString::number(deepest)));
+    QVERIFY2(deepest < 20, qPrintable(QString::number(deepest)));
 }
 
 void tst_FramelessProcessDialogReentrancy::lastValueWithinSetValue()

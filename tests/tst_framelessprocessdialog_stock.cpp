@@ -193,31 +193,6 @@ QStringList repeatedOpen()
     return runner.lines();
 }
 
-/** How deep calls of setValue() stand in one another when events make more of them. */
-template <typename Progress>
-int depthOfPumping(int events)
-{
-    Progress dialog(QString(), QString(), 0, 1000000);
-    dialog.setModal(true);
-    dialog.setMinimumDuration(0);
-    dialog.setValue(1);
-    int depth = 0;
-    int deepest = 0;
-    int value = 2;
-    for (int i = 0; i < events; ++i) {
-        QMetaObject::invokeMethod(
-            &dialog,
-            [&] {
-                deepest = qMax(deepest, ++depth);
-                dialog.setValue(++value);
-                --depth;
-            },
-            Qt::QueuedConnection);
-    }
-    dialog.setValue(2);
-    return dialog.value() == events + 2 ? deepest : -1;
-}
-
 } // namespace
 
 /** The same script of calls for QProgressDialog and for ours. */
@@ -233,7 +208,6 @@ private Q_SLOTS:
     void sameOpen() { QCOMPARE(repeatedOpen<Dialog>(), repeatedOpen<QProgressDialog>()); }
     void sameProperties();
     void sameSlots();
-    void pumping();
 };
 
 void tst_FramelessProcessDialogStock::sameProperties()
@@ -252,14 +226,6 @@ void tst_FramelessProcessDialogStock::sameSlots()
 {
     QCOMPARE(lmtest::ownMethods(FramelessProcessDialog::staticMetaObject),
              lmtest::ownMethods(QProgressDialog::staticMetaObject));
-}
-
-void tst_FramelessProcessDialogStock::pumping()
-{
-    QCOMPARE(depthOfPumping<Dialog>(3), depthOfPumping<QProgressDialog>(3));
-    // A worker posts faster than the dialog takes it. The stack must not grow with that.
-    const int deepest = depthOfPumping<Dialog>(100000);
-    QVERIFY2(deepest > 0 && deepest < 20, qPrintable(QString::number(deepest)));
 }
 
 LMTEST_MAIN(tst_FramelessProcessDialogStock)
