@@ -19,6 +19,7 @@
 #include <lmwidgets/framelessdialog.h>
 #include <lmwidgets/framelesshelper.h>
 #include <lmwidgets/framelessmessagebox.h>
+#include <lmwidgets/framelessprocessdialog.h>
 #include <lmwidgets/frameline.h>
 #include <lmwidgets/groupboxcollapsebutton.h>
 #include <lmwidgets/hyperlinklabel.h>

@@ -1,10 +1,10 @@
 #include <lmwidgets/talvodialogbase.h>
 
+#include "dialogdone_p.h"
 #include "talvostylemanager_p.h"
 
 #include <QHash>
 #include <QPointer>
-#include <QSignalBlocker>
 
 namespace LM {
 namespace Widgets {
@@ -43,25 +43,7 @@ TalvoDialogBase::~TalvoDialogBase()
 
 void TalvoDialogBase::done(int result)
 {
-    // QDialog emits two signals one after the other without asking whether it is still alive. Its
-    // own done() runs with signals off here, after the hiding, in which a subclass may emit some.
-    const QPointer<TalvoDialogBase> guard(this);
-    hide();
-    if (!guard) {
-        return;
-    }
-    {
-        const QSignalBlocker blocker(this);
-        QDialog::done(result);
-    }
-    if (result == Accepted) {
-        Q_EMIT accepted();
-    } else if (result == Rejected) {
-        Q_EMIT rejected();
-    }
-    if (guard) {
-        Q_EMIT finished(result);
-    }
+    finishDialog(this, result);
 }
 
 void TalvoDialogBase::onInitStyleSheet()

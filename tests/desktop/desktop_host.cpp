@@ -6,6 +6,7 @@
 #include "containersscenario.h"
 #include "editcomboscenario.h"
 #include "layerscenario.h"
+#include "progressscenario.h"
 #include "reporter.h"
 #include "smallwidgetsscenario.h"
 
@@ -289,6 +290,7 @@ QHash<QString, std::function<void()>> scenarios()
         {QStringLiteral("editcombo"), runEditCombo},
         {QStringLiteral("small"), runSmallWidgets},
         {QStringLiteral("desktop-link"), runDesktopLink},
+        {QStringLiteral("progress"), runProgress},
         {QStringLiteral("maximized-first"),
          [] { makeDialogWithTitleButtons(nullptr)->showMaximized(); }},
     };
