@@ -54,9 +54,6 @@ void AccessibleDoubleSlider::install()
 
 void AccessibleDoubleSlider::reportValue(TalvoDoubleSlider *slider, int rank, double value)
 {
-    if (!QAccessible::isActive()) {
-        return;
-    }
     QAccessibleValueChangeEvent event(slider, value);
     event.setChild(rank);
     QAccessible::updateAccessibility(&event);

@@ -10,12 +10,12 @@
 #include <QDateTime>
 #include <QEvent>
 #include <QFileInfo>
-#include <QGuiApplication>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPixmap>
 #include <QPointer>
 
+#include <array>
 #include <cmath>
 
 namespace LM {
@@ -38,27 +38,28 @@ constexpr QPoint RightPictureOffset(8, 5);
 constexpr QSize PreferredSize(120, 20);
 constexpr QSize LeastSize(26, 13); // two pictures side by side
 
-// Handles further outside than this are drawn here, where nothing of them can be seen either.
-// Painters count in numbers that hold some thousand px.
+// Handles further outside than this and the width of the widget are drawn there, where nothing of
+// them can be seen either. Values may be larger than any number of px that a painter takes.
 constexpr double DrawnOutside = 1000.0;
 
-/** The handle picture and what its file looked like when it was read. */
+/** A handle picture and what its file looked like when it was read. */
 struct HandlePicture
 {
     QString path;
     QDateTime modified;
     qint64 size = -1;
-    qreal pixelRatio = 0.0; // decides whether the file for double resolution was looked for
     QPixmap pixmap;
 };
 
-Q_GLOBAL_STATIC(HandlePicture, keptPicture)
+/** One for screens of normal and one for screens of higher resolution. */
+using HandlePictures = std::array<HandlePicture, 2>;
+Q_GLOBAL_STATIC(HandlePictures, keptPictures)
 
-// The picture must not outlive the application.
-void forgetPicture()
+// The pictures must not outlive the application.
+void forgetPictures()
 {
-    if (!keptPicture.isDestroyed()) {
-        *keptPicture = HandlePicture();
+    if (!keptPictures.isDestroyed()) {
+        keptPictures->fill(HandlePicture());
     }
 }
 
@@ -66,20 +67,22 @@ void forgetPicture()
  * Returns the handle picture of the current theme. All sliders share it, and it is read again only
  * when the theme or its file has changed.
  */
-QPixmap handlePicture()
+QPixmap handlePicture(qreal pixelRatio)
 {
-    const QString path = TalvoStyleManager::instance()->currentThemePath() +
-                         QStringLiteral("qssimage/movebutton.png");
-    HandlePicture &kept = *keptPicture;
-    if (kept.size < 0) {
-        qAddPostRoutine(forgetPicture);
+    const QString path =
+        TalvoStyleManager::instance()->currentThemePath() + QStringLiteral("qssimage/movebutton");
+    const bool isLarge = pixelRatio > 1.0;
+    QFileInfo info(isLarge ? path + QStringLiteral("@2x.png") : path + QStringLiteral(".png"));
+    if (isLarge && !info.exists()) {
+        info.setFile(path + QStringLiteral(".png"));
     }
-    const QFileInfo info(path);
+    HandlePicture &kept = (*keptPictures)[isLarge ? 1 : 0];
     const QDateTime modified = info.lastModified();
-    const qreal pixelRatio = qApp->devicePixelRatio();
-    if (kept.size != info.size() || kept.path != path || kept.modified != modified ||
-        kept.pixelRatio < pixelRatio) {
-        kept = {path, modified, info.size(), pixelRatio, QPixmap(path)};
+    if (kept.size != info.size() || kept.modified != modified || kept.path != info.filePath()) {
+        if (keptPictures->front().size < 0 && keptPictures->back().size < 0) {
+            qAddPostRoutine(forgetPictures);
+        }
+        kept = {info.filePath(), modified, info.size(), QPixmap(info.filePath())};
     }
     return kept.pixmap;
 }
@@ -114,9 +117,9 @@ double TalvoDoubleSliderPrivate::value(int x) const
 
 QRect TalvoDoubleSliderPrivate::span() const
 {
-    const double right = q->width() + DrawnOutside;
-    const double left = qBound(-DrawnOutside, qMin(lowerPos, upperPos), right);
-    const double length = qBound(-DrawnOutside, qMax(lowerPos, upperPos), right) - left;
+    const double outside = q->width() + DrawnOutside;
+    const double left = qBound(-outside, qMin(lowerPos, upperPos), outside);
+    const double length = qBound(-outside, qMax(lowerPos, upperPos), outside) - left;
     return QRect(int(left), q->height() / 2 - BarHeight / 2, int(length), BarHeight);
 }
 
@@ -338,7 +341,7 @@ void TalvoDoubleSlider::paintEvent(QPaintEvent *event)
     painter.drawRect(0, span.top(), span.left(), span.height());
     painter.drawRect(span.right(), span.top(), width(), span.height());
 
-    const QPixmap picture = handlePicture();
+    const QPixmap picture = handlePicture(devicePixelRatioF());
     painter.drawPixmap(TalvoDoubleSliderPrivate::leftPicture(span), picture);
     painter.drawPixmap(TalvoDoubleSliderPrivate::rightPicture(span), picture);
 }
