@@ -7,6 +7,7 @@
 LMGALLERY_PAGE(theme)
 LMGALLERY_PAGE(frame)
 LMGALLERY_PAGE(messagebox)
+LMGALLERY_PAGE(sliders)
 LMGALLERY_PAGE(linetypes)
 LMGALLERY_PAGE(delegates)
 LMGALLERY_PAGE(layers)
