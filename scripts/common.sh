@@ -7,7 +7,7 @@ root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
 # What a build needs on Debian 12, and what the tests need on top of it.
 build_packages=(g++ cmake ninja-build qtbase5-dev fonts-dejavu-core)
-test_packages=(clang-format libxfixes-dev openbox python3 x11-utils xdotool xvfb)
+test_packages=(at-spi2-core clang-format dbus libxfixes-dev openbox python3 x11-utils xdotool xvfb)
 
 # Set when packages were installed: what CMake found before may no longer be all there is.
 reconfigure=

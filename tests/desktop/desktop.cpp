@@ -154,12 +154,13 @@ QString Desktop::pointerPicture() const
     return run(programFile(QStringLiteral("desktop_pointer_picture")), {});
 }
 
-Host::Host(const Desktop &desktop, const QString &scenario) : m_scenario(scenario)
+Host::Host(const Desktop &desktop, const QString &scenario, const QString &program)
+    : m_scenario(scenario)
 {
     connect(&m_process, &QProcess::readyReadStandardOutput, this, &Host::readLines);
     m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     m_process.setProcessEnvironment(desktop.environment());
-    m_process.start(programFile(QStringLiteral("desktop_host")), {scenario});
+    m_process.start(programFile(program), {scenario});
 }
 
 Host::~Host()
