@@ -193,7 +193,7 @@ bool Assistant::listen()
         m_bus.connect(QString(), QString(), QStringLiteral("org.a11y.atspi.Event.Object"),
                       QStringLiteral("PropertyChange"), this, SLOT(onPropertyChange(QDBusMessage)));
     return connected && registry.call(QStringLiteral("Registry"), QStringLiteral("RegisterEvent"),
-                                      {QStringLiteral("object:property-change")})
+                                      {QStringLiteral("object:property-change:accessible-value")})
                                 .type() == QDBusMessage::ReplyMessage;
 }
 
