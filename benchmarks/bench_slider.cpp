@@ -47,6 +47,6 @@ int main(int argc, char **argv)
     bench::printHead();
     bench::printLine(QStringLiteral("slider: one repaint"),
                      bench::compare(repaintsOf(&ours, &target), repaintsOf(&stock, &target)),
-                     repaints, 1.0);
+                     repaints);
     return 0;
 }
