@@ -34,6 +34,7 @@
 #include <lmwidgets/talvoanimatedicon.h>
 #include <lmwidgets/talvobasicutil.h>
 #include <lmwidgets/talvodialogbase.h>
+#include <lmwidgets/talvodoubleslider.h>
 #include <lmwidgets/talvosplashscreen.h>
 #include <lmwidgets/talvostylemanager.h>
 #include <lmwidgets/titlebar.h>

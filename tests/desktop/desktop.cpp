@@ -154,7 +154,8 @@ QString Desktop::pointerPicture() const
     return run(programFile(QStringLiteral("desktop_pointer_picture")), {});
 }
 
-Host::Host(const Desktop &desktop, const QString &scenario, const QString &programs)
+Host::Host(const Desktop &desktop, const QString &scenario, const QString &programs,
+           const QString &program)
     : m_scenario(scenario)
 {
     connect(&m_process, &QProcess::readyReadStandardOutput, this, &Host::readLines);
@@ -165,7 +166,7 @@ Host::Host(const Desktop &desktop, const QString &scenario, const QString &progr
         environment.insert(path, programs + QLatin1Char(':') + environment.value(path));
     }
     m_process.setProcessEnvironment(environment);
-    m_process.start(programFile(QStringLiteral("desktop_host")), {scenario});
+    m_process.start(programFile(program), {scenario});
 }
 
 Host::~Host()

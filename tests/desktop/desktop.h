@@ -34,6 +34,8 @@ public:
 
     /** The environment in which programs find this desktop. */
     QProcessEnvironment environment() const { return m_environment; }
+    /** Changes it for the programs that are started from now on. */
+    void setEnvironment(const QProcessEnvironment &environment) { m_environment = environment; }
 
     /** Runs xdotool with @p arguments. Returns what it printed; a null text when it failed. */
     QString xdotool(const QStringList &arguments) const;
@@ -54,14 +56,15 @@ private:
     ChildProcess m_windowManager;
 };
 
-/** One run of desktop_host. Ends with this object. */
+/** One run of desktop_host, or of another program that uses Reporter. Ends with this object. */
 class Host : public QObject
 {
     Q_OBJECT
 
 public:
     /** With @p programs, a folder, the host finds the programs there before those of the system. */
-    Host(const Desktop &desktop, const QString &scenario, const QString &programs = QString());
+    Host(const Desktop &desktop, const QString &scenario, const QString &programs = QString(),
+         const QString &program = QStringLiteral("desktop_host"));
     ~Host() override;
 
     /** From here on waitFor() and hasSaid() look only at what the host says afterwards. */

@@ -9,6 +9,7 @@
 #include "progressscenario.h"
 #include "reporter.h"
 #include "smallwidgetsscenario.h"
+#include "sliderscenario.h"
 
 #include <lmwidgets/framelessdialog.h>
 #include <lmwidgets/framelessmessagebox.h>
@@ -291,6 +292,7 @@ QHash<QString, std::function<void()>> scenarios()
         {QStringLiteral("small"), runSmallWidgets},
         {QStringLiteral("desktop-link"), runDesktopLink},
         {QStringLiteral("progress"), runProgress},
+        {QStringLiteral("slider"), runSlider},
         {QStringLiteral("maximized-first"),
          [] { makeDialogWithTitleButtons(nullptr)->showMaximized(); }},
     };
