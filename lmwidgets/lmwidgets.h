@@ -16,6 +16,7 @@
 #include <lmwidgets/framelessdialog.h>
 #include <lmwidgets/framelesshelper.h>
 #include <lmwidgets/framelessmessagebox.h>
+#include <lmwidgets/framelesswaitingdialog.h>
 #include <lmwidgets/frameline.h>
 #include <lmwidgets/groupboxcollapsebutton.h>
 #include <lmwidgets/kvitemdoublespinboxdelegate.h>
@@ -29,5 +30,6 @@
 #include <lmwidgets/talvosplashscreen.h>
 #include <lmwidgets/talvostylemanager.h>
 #include <lmwidgets/titlebar.h>
+#include <lmwidgets/vantoroframelessdialog.h>
 
 #endif
