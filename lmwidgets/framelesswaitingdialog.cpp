@@ -185,12 +185,11 @@ FramelessWaitingDialog *FramelessWaitingDialog::instance(QWidget *parent, Qt::Wi
     if (application->thread() == QThread::currentThread()) {
         return createInstance(parent, flags);
     }
-    FramelessWaitingDialog *dialog = nullptr;
     // If the application goes meanwhile it drops the call, which ends the waiting.
     QMetaObject::invokeMethod(
-        application, [&dialog, parent, flags] { dialog = createInstance(parent, flags); },
+        application, [parent, flags] { createInstance(parent, flags); },
         Qt::BlockingQueuedConnection);
-    return dialog;
+    return theInstance.load();
 }
 
 void FramelessWaitingDialog::startWaiting(const QString &text)

@@ -58,7 +58,7 @@ void VantoroFramelessDialogPrivate::createWidgets(QFrame *contentFrame)
     mainLayout->setSpacing(0);
     createTitleBar(contentFrame);
     createCenter();
-    createBottomRow();
+    createBottomRow(contentFrame);
     createHelper();
     setButtonLooks();
     outerLayout->addLayout(titleLayout);
@@ -99,9 +99,11 @@ void VantoroFramelessDialogPrivate::createCenter()
     mainLayout->addLayout(centerLayout);
 }
 
-void VantoroFramelessDialogPrivate::createBottomRow()
+void VantoroFramelessDialogPrivate::createBottomRow(QFrame *contentFrame)
 {
-    bottomWidget = new QWidget;
+    // Below the dialog from the start: a button tells only the dialog that it has at that moment
+    // that it is the default one.
+    bottomWidget = new QWidget(contentFrame);
     bottomWidget->setFixedHeight(BottomHeight);
     bottomWidget->setProperty(TransparentWidgetProperty, true);
     bottomLayout = new QHBoxLayout(bottomWidget);
@@ -163,9 +165,13 @@ void VantoroFramelessDialogPrivate::putButtonsLastInTabOrder()
         }
     }
     if (last) {
+        // From the last one backwards, each directly behind the content. QWidget does nothing for
+        // two widgets that follow each other across the chain's end, as the last of the content and
+        // OK do at first, which would leave OK the first of all.
         QWidget::setTabOrder(last, cancelButton);
-        QWidget::setTabOrder(cancelButton, applyButton);
-        QWidget::setTabOrder(applyButton, okButton);
+        QWidget::setTabOrder(last, okButton);
+        QWidget::setTabOrder(last, applyButton);
+        QWidget::setTabOrder(last, cancelButton);
     }
 }
 

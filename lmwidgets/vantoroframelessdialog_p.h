@@ -55,7 +55,7 @@ protected:
 private:
     void createTitleBar(QFrame *contentFrame);
     void createCenter();
-    void createBottomRow();
+    void createBottomRow(QFrame *contentFrame);
     void createHelper();
     void setButtonLooks();
 
