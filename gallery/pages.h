@@ -6,7 +6,9 @@
 
 LMGALLERY_PAGE(theme)
 LMGALLERY_PAGE(frame)
+LMGALLERY_PAGE(secondframe)
 LMGALLERY_PAGE(messagebox)
+LMGALLERY_PAGE(waiting)
 LMGALLERY_PAGE(linetypes)
 LMGALLERY_PAGE(delegates)
 LMGALLERY_PAGE(layers)
