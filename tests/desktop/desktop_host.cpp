@@ -6,6 +6,7 @@
 #include "containersscenario.h"
 #include "layerscenario.h"
 #include "reporter.h"
+#include "waitingscenario.h"
 
 #include <lmwidgets/framelessdialog.h>
 #include <lmwidgets/framelessmessagebox.h>
@@ -284,6 +285,8 @@ QHash<QString, std::function<void()>> scenarios()
          [] { QTimer::singleShot(0, [] { askWithStandardButtons(nullptr); }); }},
         {QStringLiteral("panel"), runPanel},
         {QStringLiteral("layers"), runLayers},
+        {QStringLiteral("waiting"), runWaiting},
+        {QStringLiteral("secondframe"), runSecondFrame},
         {QStringLiteral("maximized-first"),
          [] { makeDialogWithTitleButtons(nullptr)->showMaximized(); }},
     };
