@@ -20,6 +20,7 @@
 #include <lmwidgets/framelesshelper.h>
 #include <lmwidgets/framelessmessagebox.h>
 #include <lmwidgets/framelessprocessdialog.h>
+#include <lmwidgets/framelesswaitingdialog.h>
 #include <lmwidgets/frameline.h>
 #include <lmwidgets/groupboxcollapsebutton.h>
 #include <lmwidgets/hyperlinklabel.h>

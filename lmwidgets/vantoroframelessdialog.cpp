@@ -5,10 +5,14 @@
 #include "vantoroframelessdialog_p.h"
 
 #include <lmwidgets/framelesshelper.h>
+#include <lmwidgets/titlebar.h>
 
 #include <QCoreApplication>
+#include <QEvent>
+#include <QFrame>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QPushButton>
 #include <QToolButton>
 #include <QVariant>
 
@@ -17,113 +21,89 @@ namespace Widgets {
 
 namespace {
 
-constexpr int TitleHeight = 48;
-constexpr int BottomHeight = 64;
 constexpr int SideMargin = 24;
-constexpr int ButtonMargin = 16;
-constexpr int ButtonSpacing = 16;
+constexpr int TitleBarHeight = 48;
+constexpr int BottomHeight = 64;
+constexpr int BottomSpacing = 16;
 constexpr int ButtonMinimumWidth = 85;
 
-constexpr Qt::WindowFlags FrameFlags = Qt::Dialog | Qt::FramelessWindowHint |
-                                       Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint;
+constexpr Qt::WindowFlags DialogFlags = Qt::Dialog | Qt::FramelessWindowHint |
+                                        Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint;
 
-const char FrameStyle[] = "QFrame#m_pContentHoderFrame { border: 1px solid #585858; }";
+const char ContentFrameStyle[] = "QFrame#m_pContentHoderFrame { border: 1px solid #585858; }";
 const char ContentStyle[] = "QWidget{background-color:#363636;}";
 const char TitleLabelStyle[] = "background-color:transparent;";
-
 const char TransparentWidgetProperty[] = "transparentbackgroundwidget";
-
-/** A layout without margins and spacing. */
-template <typename Layout>
-Layout *bareLayout()
-{
-    auto *layout = new Layout;
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    return layout;
-}
 
 } // namespace
 
 VantoroFramelessDialogPrivate::VantoroFramelessDialogPrivate(VantoroFramelessDialog *dialog)
-    : q(dialog), keyboardActivation(dialog)
+    : owner(dialog), keyboardActivation(dialog)
 {
     dialog->installEventFilter(this);
 }
 
-bool VantoroFramelessDialogPrivate::eventFilter(QObject *watched, QEvent *event)
+void VantoroFramelessDialogPrivate::createWidgets(QFrame *contentFrame)
 {
-    if (watched == q && event->type() == QEvent::Show && !tabOrderSettled) {
-        tabOrderSettled = true;
-        putButtonsLastInTabOrder(q, bottomWidget, {okButton, applyButton, cancelButton},
-                                 {cancelButton, applyButton, okButton});
-    }
-    return QObject::eventFilter(watched, event);
-}
-
-void VantoroFramelessDialogPrivate::createParts(QFrame *frame)
-{
-    contentFrame = frame;
-    outerLayout = bareLayout<QVBoxLayout>();
-    frame->setLayout(outerLayout);
-    mainLayout = bareLayout<QVBoxLayout>();
+    outerLayout = new QVBoxLayout(contentFrame);
+    outerLayout->setContentsMargins(0, 0, 0, 0);
+    outerLayout->setSpacing(0);
+    mainLayout = new QVBoxLayout;
     mainLayout->setContentsMargins(SideMargin, 0, SideMargin, 0);
-
-    createTitleBar();
-    createCentre();
-    createBottomRow();
+    mainLayout->setSpacing(0);
+    createTitleBar(contentFrame);
+    createCenter();
+    createBottomRow(contentFrame);
     createHelper();
-
-    okButton->setMinimumWidth(ButtonMinimumWidth);
-    cancelButton->setMinimumWidth(ButtonMinimumWidth);
-    okButton->setProperty("vantorookbutton", true);
-    // Apply looks like Cancel: style sheets of hosts select both by the one property.
-    cancelButton->setProperty("vantorcancelbbutton", true);
-    applyButton->setProperty("vantorcancelbbutton", true);
-
+    setButtonLooks();
     outerLayout->addLayout(titleLayout);
     outerLayout->addLayout(mainLayout);
 }
 
-void VantoroFramelessDialogPrivate::createTitleBar()
+void VantoroFramelessDialogPrivate::createTitleBar(QFrame *contentFrame)
 {
-    titleBar = new TitleBar(q);
+    titleBar = new TitleBar(contentFrame);
     titleBar->setProperty("isFramelessDialogTitleBar", true);
     titleBar->setTitleAlignment(Qt::AlignLeft);
-    titleLayout = bareLayout<QHBoxLayout>();
+    titleLayout = new QHBoxLayout;
+    titleLayout->setContentsMargins(0, 0, 0, 0);
+    titleLayout->setSpacing(0);
     titleLayout->addWidget(titleBar);
-
     titleBar->setTitleButtonVisible(TitleBar::CloseButton, true);
-    titleBar->setFixedHeight(TitleHeight);
+    titleBar->setFixedHeight(TitleBarHeight);
     titleBar->setProperty(TransparentWidgetProperty, true);
     titleBar->titleButton(TitleBar::CloseButton)->setProperty("transparentbackgroundbutton", true);
     titleBar->titleLabel()->setStyleSheet(QLatin1String(TitleLabelStyle));
     titleBar->titleLabel()->setProperty("vantorotitlecontent", true);
     titleBar->topLeftWidget()->setProperty(TransparentWidgetProperty, true);
-    for (const int type : {TitleBar::MaxButton, TitleBar::LogoButton, TitleBar::RestoreButton,
-                           TitleBar::MinButton}) {
-        titleBar->setTitleButtonVisible(type, false);
+    for (const int button : {TitleBar::MaxButton, TitleBar::LogoButton, TitleBar::RestoreButton,
+                             TitleBar::MinButton}) {
+        titleBar->setTitleButtonVisible(button, false);
     }
     titleBar->show();
 }
 
-void VantoroFramelessDialogPrivate::createCentre()
+void VantoroFramelessDialogPrivate::createCenter()
 {
+    centerLayout = new QHBoxLayout;
+    centerLayout->setContentsMargins(0, 0, 0, 0);
+    centerLayout->setSpacing(0);
     contentHolder = new QFrame;
     contentHolder->setProperty("centercontentgrayframe", true);
-    centreLayout = bareLayout<QHBoxLayout>();
-    centreLayout->addWidget(contentHolder);
-    mainLayout->addLayout(centreLayout);
+    centerLayout->addWidget(contentHolder);
+    mainLayout->addLayout(centerLayout);
 }
 
-void VantoroFramelessDialogPrivate::createBottomRow()
+void VantoroFramelessDialogPrivate::createBottomRow(QFrame *contentFrame)
 {
-    bottomWidget = new QWidget;
+    // Below the dialog from the start: a button tells only the dialog that it has at that moment
+    // that it is the default one.
+    bottomWidget = new QWidget(contentFrame);
     bottomWidget->setFixedHeight(BottomHeight);
     bottomWidget->setProperty(TransparentWidgetProperty, true);
     bottomLayout = new QHBoxLayout(bottomWidget);
-    bottomLayout->setContentsMargins(0, ButtonMargin, 0, ButtonMargin);
-    bottomLayout->setSpacing(ButtonSpacing);
+    bottomLayout->setContentsMargins(0, BottomSpacing, 0, BottomSpacing);
+    bottomLayout->setSpacing(BottomSpacing);
     bottomLayout->addStretch();
 
     okButton = new QPushButton(bottomWidget);
@@ -139,20 +119,58 @@ void VantoroFramelessDialogPrivate::createBottomRow()
 
 void VantoroFramelessDialogPrivate::createHelper()
 {
-    helper = new FramelessHelper(q);
-    helper->activateOn(q);
+    helper = new FramelessHelper(owner);
+    helper->activateOn(owner);
     helper->setTitleHeight(static_cast<unsigned int>(titleBar->height()));
     helper->setWidgetResizable(false);
     helper->setRubberBandOnResize(false);
 }
 
+void VantoroFramelessDialogPrivate::setButtonLooks()
+{
+    okButton->setMinimumWidth(ButtonMinimumWidth);
+    cancelButton->setMinimumWidth(ButtonMinimumWidth);
+    okButton->setProperty("vantorookbutton", true);
+    // Apply looks like Cancel: style sheets of hosts select both by the one property.
+    cancelButton->setProperty("vantorcancelbbutton", true);
+    applyButton->setProperty("vantorcancelbbutton", true);
+}
+
+bool VantoroFramelessDialogPrivate::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == owner && event->type() == QEvent::Show && !event->spontaneous()) {
+        owner->removeEventFilter(this);
+        putButtonsLastInTabOrder(owner, bottomWidget, {okButton, applyButton, cancelButton},
+                                 {cancelButton, applyButton, okButton});
+    }
+    return false;
+}
+
 VantoroFramelessDialog::VantoroFramelessDialog(QWidget *parent, Qt::WindowFlags flags)
     : TalvoDialogBase(parent, flags | Qt::BypassWindowManagerHint),
-      d(new VantoroFramelessDialogPrivate(this))
+      d(new VantoroFramelessDialogPrivate(this)),
+      m_contentFrame(new QFrame)
 {
-    setWindowFlags(FrameFlags);
-    createFrame();
-    connectParts();
+    setWindowFlags(DialogFlags);
+
+    auto *layout = new QVBoxLayout;
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    m_contentFrame->setObjectName(QStringLiteral("m_pContentHoderFrame"));
+    m_contentFrame->setProperty("framehoderbackground", true);
+    m_contentFrame->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    m_contentFrame->setStyleSheet(QLatin1String(ContentFrameStyle));
+    layout->addWidget(m_contentFrame);
+    QWidget::setLayout(layout);
+
+    installDialogShadow(this);
+    d->createWidgets(m_contentFrame);
+    connect(d->titleBar, &TitleBar::closed, this, &VantoroFramelessDialog::slotUIButtonCancel);
+    connect(d->okButton, &QPushButton::clicked, this, &VantoroFramelessDialog::slotUIButtonOk);
+    connect(d->cancelButton, &QPushButton::clicked, this,
+            &VantoroFramelessDialog::slotUIButtonCancel);
+    connect(d->applyButton, &QPushButton::clicked, this,
+            &VantoroFramelessDialog::slotUIButtonApply);
     d->okButton->setText(QCoreApplication::translate("vantorolframelessdialog", "OK"));
     d->cancelButton->setText(QCoreApplication::translate("vantorolframelessdialog", "Cancel"));
 }
@@ -160,30 +178,6 @@ VantoroFramelessDialog::VantoroFramelessDialog(QWidget *parent, Qt::WindowFlags 
 VantoroFramelessDialog::~VantoroFramelessDialog()
 {
     delete d;
-}
-
-void VantoroFramelessDialog::createFrame()
-{
-    auto *windowLayout = bareLayout<QVBoxLayout>();
-    auto *frame = new QFrame;
-    frame->setObjectName(QStringLiteral("m_pContentHoderFrame"));
-    frame->setProperty("framehoderbackground", true);
-    frame->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    frame->setStyleSheet(QLatin1String(FrameStyle));
-    windowLayout->addWidget(frame);
-    QWidget::setLayout(windowLayout);
-
-    installDialogShadow(this);
-    d->createParts(frame);
-}
-
-void VantoroFramelessDialog::connectParts()
-{
-    // Through the dialog each time, so that the overrides of a subclass run.
-    connect(d->titleBar, &TitleBar::closed, this, [this] { slotUIButtonCancel(); });
-    connect(d->okButton, &QPushButton::clicked, this, [this] { slotUIButtonOk(); });
-    connect(d->cancelButton, &QPushButton::clicked, this, [this] { slotUIButtonCancel(); });
-    connect(d->applyButton, &QPushButton::clicked, this, [this] { slotUIButtonApply(); });
 }
 
 void VantoroFramelessDialog::initStyleSheet() {}
@@ -239,7 +233,7 @@ QWidget *VantoroFramelessDialog::bottomWidget()
 
 QFrame *VantoroFramelessDialog::getCenterMainFrame()
 {
-    return d->contentFrame;
+    return m_contentFrame;
 }
 
 QLayout *VantoroFramelessDialog::mainLayout()
@@ -254,7 +248,7 @@ QHBoxLayout *VantoroFramelessDialog::bottomLayout()
 
 QHBoxLayout *VantoroFramelessDialog::getCenterHoderLayout()
 {
-    return d->centreLayout;
+    return d->centerLayout;
 }
 
 QLayout *VantoroFramelessDialog::getContentHolderLayout()
@@ -269,14 +263,15 @@ QLayout *VantoroFramelessDialog::getTilteBarLayout()
 
 void VantoroFramelessDialog::setLayout(QLayout *layout)
 {
-    if (!layout || !d->contentHolder || d->contentHolder->layout()) {
+    if (!layout || !d->contentHolder || layout == QWidget::layout()) {
         return;
     }
     // A layout that was constructed with the dialog as its parent is meant for it, yet stands
-    // nowhere: the frame's own layout is in its place. All others with a parent are in use.
-    if (layout->parent() == this && layout != QWidget::layout()) {
+    // nowhere: the frame's own layout is in its place. All others with a parent are in use, and
+    // QWidget would take one away from another widget, even the frame's own.
+    if (layout->parent() == this) {
         layout->setParent(nullptr);
-    } else if (layout->parent()) {
+    } else if (layout->parent() && layout->parent() != d->contentHolder) {
         return;
     }
     d->contentHolder->setLayout(layout);
@@ -291,14 +286,13 @@ QLayout *VantoroFramelessDialog::layout() const
 
 void VantoroFramelessDialog::setWindowTitle(const QString &title)
 {
-    if (!d->titleBar) {
-        return;
+    if (d->titleBar) {
+        // The window itself has no title, so what reads the screen to somebody is told here.
+        if (accessibleName() == d->titleBar->title()) {
+            setAccessibleName(title);
+        }
+        d->titleBar->setTitle(title);
     }
-    // The window itself has no title, so what reads the screen to somebody is told here.
-    if (accessibleName() == d->titleBar->title()) {
-        setAccessibleName(title);
-    }
-    d->titleBar->setTitle(title);
 }
 
 void VantoroFramelessDialog::slotUIButtonOk()
@@ -315,10 +309,9 @@ void VantoroFramelessDialog::slotUIButtonApply() {}
 
 void VantoroFramelessDialog::keyPressEvent(QKeyEvent *event)
 {
-    if (event->key() == Qt::Key_Escape) {
-        return;
+    if (event->key() != Qt::Key_Escape) {
+        TalvoDialogBase::keyPressEvent(event);
     }
-    QDialog::keyPressEvent(event);
 }
 
 } // namespace Widgets

@@ -4,6 +4,8 @@
 #include <lmwidgets/lmwidgets_global.h>
 #include <lmwidgets/talvodialogbase.h>
 
+#include <QPointer>
+
 QT_BEGIN_NAMESPACE
 class QFrame;
 class QHBoxLayout;
@@ -22,31 +24,31 @@ class VantoroFramelessDialogPrivate;
 /**
  * @class VantoroFramelessDialog vantoroframelessdialog.h <lmwidgets/vantoroframelessdialog.h>
  *
- * @brief The second frame: a dialog with a bordered frame, a grey centre and a tall button row.
+ * @brief A dialog with a bordered frame of its own, a title bar and a tall row of buttons.
  *
- * Hosts derive their dialogs from it, fill the centre with setLayout() and override the three
- * functions that the buttons call. Unlike FramelessDialog it is managed by the window manager, it
- * has no see-through margin, and Escape does not close it.
+ * Beside FramelessDialog this is the frame for larger dialogs: there is no see-through margin, the
+ * content stands on a grey area 24 px from the sides, and the row of buttons is 64 px high. The
+ * host derives its dialog, sets a layout and overrides what the buttons do. The mouse drags the
+ * dialog by its title; the edges resize it once getFramelessHelper() is told so. Escape does not
+ * close it.
  *
  * @code
- * class ClassifyDialog : public LM::Widgets::VantoroFramelessDialog
+ * class Settings : public LM::Widgets::VantoroFramelessDialog
  * {
  * public:
- *     explicit ClassifyDialog(QWidget *parent = nullptr) : VantoroFramelessDialog(parent)
+ *     explicit Settings(QWidget *parent) : VantoroFramelessDialog(parent)
  *     {
- *         setWindowTitle(tr("Classify"));
+ *         setWindowTitle(tr("Settings"));
  *         auto *form = new QFormLayout;
- *         form->addRow(tr("Threshold"), new QDoubleSpinBox);
+ *         form->addRow(tr("Name"), new QLineEdit);
  *         setLayout(form);
+ *         getApplyButton()->show();
  *     }
- *
- *     void slotUIButtonOk() override { ... accept(); }
+ *     void slotUIButtonApply() override { store(); }
  * };
  * @endcode
  *
- * A new dialog shows Cancel and OK, hides Apply, and shows only the close button in its title bar.
- * The mouse moves it by its title bar, 48 px high, and does not resize it. What is returned by the
- * functions below belongs to the dialog; where the host has deleted a part, they return null.
+ * Unlike the other frameless dialogs it is managed by the window manager.
  */
 class LMWIDGETS_EXPORT VantoroFramelessDialog : public TalvoDialogBase
 {
@@ -54,90 +56,83 @@ class LMWIDGETS_EXPORT VantoroFramelessDialog : public TalvoDialogBase
 
 public:
     /**
-     * Constructs a dialog whose window flags are Qt::Dialog, Qt::FramelessWindowHint,
-     * Qt::WindowMinimizeButtonHint and Qt::WindowMaximizeButtonHint, whatever @p flags say. @p
-     * parent may be null; otherwise it owns the dialog. Building a dialog sets the title height of
-     * all frameless helpers of the process to 48 px.
+     * Constructs a dialog with the buttons Cancel and OK, which is the default; Apply is hidden.
+     * The window flags are Qt::Dialog, Qt::FramelessWindowHint, Qt::WindowMinimizeButtonHint and
+     * Qt::WindowMaximizeButtonHint, whatever @p flags says.
      */
     explicit VantoroFramelessDialog(QWidget *parent = nullptr,
                                     Qt::WindowFlags flags = Qt::WindowFlags());
     ~VantoroFramelessDialog() override;
 
-    /** Called on each theme switch. This one does nothing. */
+    /** Does nothing; called on each theme switch. */
     void initStyleSheet() override;
 
-    /** Returns the title bar. */
+    /** Returns the title bar. Only its closed() is connected, to slotUIButtonCancel(). */
     TitleBar *getTitleBar();
-    /** Returns what moves the dialog, and resizes it if the host turns that on. */
+    /** Returns what moves and resizes the dialog; not resizable at start. */
     FramelessHelper *getFramelessHelper();
 
-    /** Returns the OK button, the default button, which calls slotUIButtonOk(). */
+    /** Returns the OK button. */
     QPushButton *getOKButton();
-    /** Returns the Cancel button, which calls slotUIButtonCancel(). */
+    /** Returns the Cancel button. */
     QPushButton *getCancelButton();
-    /** Returns the Apply button, hidden at start, which calls slotUIButtonApply(). */
+    /** Returns the Apply button, which is hidden at start. */
     QPushButton *getApplyButton();
-    /** Returns the close button of the title bar, which calls slotUIButtonCancel(). */
+    /** Returns the close button of the title bar. */
     QToolButton *getWindowTitleCloseButton();
     /**
-     * Shows the maximise button of the title bar and returns it. The button emits
-     * TitleBar::maximumed(), to which the dialog is not connected: a subclass does that.
+     * Shows the maximise button of the title bar, each time, and returns it. What it does is up to
+     * the caller: TitleBar::maximumed() and TitleBar::normaled() are not connected.
      */
     QToolButton *getWindowTitleMaxButton();
 
-    /** Returns the grey centre, which receives the layout given to setLayout(). */
+    /** Returns the grey area that takes the content. */
     QWidget *getContentHolder();
-    /** Returns the widget that holds the button row, 64 px high. */
+    /** Returns the container of the row of buttons, 64 px high. */
     QWidget *bottomWidget();
-    /** Returns the frame with the border around everything. */
+    /** Returns the frame with the border around all of it. */
     QFrame *getCenterMainFrame();
 
-    /** Returns the layout of centre and button row; its margins are 24, 0, 24, 0 px. */
+    /** Returns the layout of the content and the row of buttons. */
     QLayout *mainLayout();
-    /** Returns the layout of the button row. */
+    /** Returns the row of buttons: a stretch, Cancel, Apply, OK. */
     QHBoxLayout *bottomLayout();
-    /** Returns the layout that the grey centre stands in. */
+    /** Returns the layout that holds the content holder. */
     QHBoxLayout *getCenterHoderLayout();
-    /** Returns the layout of the grey centre; null before setLayout(). */
+    /** Returns the layout of the content; null until setLayout(). */
     QLayout *getContentHolderLayout();
-    /** Returns the layout that the title bar stands in. */
+    /** Returns the layout that holds the title bar. */
     QLayout *getTilteBarLayout();
 
     /**
-     * Installs @p layout on the grey centre, which owns it, and gives the centre the object name
-     * "m_pCentreContentWidget" and its style sheet. Hides QWidget::setLayout(), whose place the
-     * frame itself takes. Null, or a layout that stands somewhere already, is ignored, and so is a
-     * second one: the caller deletes a former layout that it wants replaced.
+     * Lays out the content holder with @p layout, which becomes its own, and gives it the grey of
+     * content. Null, a layout that is in use elsewhere, or a second layout is ignored; Qt warns of
+     * the last.
      */
     void setLayout(QLayout *layout);
-    /** Returns the layout of the grey centre; null before setLayout(). */
+    /** Returns the layout of the content; null until setLayout(). */
     QLayout *layout() const;
 
-    /**
-     * Sets the text of the title bar. Hides QWidget::setWindowTitle(): the window itself gets no
-     * title, but it is its accessible name, unless the host has set another.
-     */
+    /** Sets the text of the title bar. */
     void setWindowTitle(const QString &title);
 
 public Q_SLOTS:
-    /** OK was clicked. This one accepts the dialog. */
+    /** OK was clicked: accepts the dialog. */
     virtual void slotUIButtonOk();
-    /** Cancel or the close button was clicked. This one rejects the dialog. */
+    /** Cancel or the title bar's close button was clicked: rejects the dialog. */
     virtual void slotUIButtonCancel();
-    /** Apply was clicked. This one does nothing. */
+    /** Apply was clicked: does nothing. */
     virtual void slotUIButtonApply();
 
 protected:
-    /** Drops Escape, so that it does not close the dialog; other keys act as in any dialog. */
+    /** Drops Escape, which therefore does not reject the dialog. */
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
     Q_DISABLE_COPY(VantoroFramelessDialog)
 
-    void createFrame();
-    void connectParts();
-
     VantoroFramelessDialogPrivate *d;
+    QPointer<QFrame> m_contentFrame;
 };
 
 } // namespace Widgets

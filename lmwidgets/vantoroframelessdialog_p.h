@@ -5,12 +5,16 @@
 
 #include <lmwidgets/titlebar.h>
 
-#include <QFrame>
 #include <QHBoxLayout>
 #include <QObject>
 #include <QPointer>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <QWidget>
+
+QT_BEGIN_NAMESPACE
+class QFrame;
+QT_END_NAMESPACE
 
 namespace LM {
 namespace Widgets {
@@ -25,7 +29,8 @@ class VantoroFramelessDialogPrivate : public QObject
 public:
     explicit VantoroFramelessDialogPrivate(VantoroFramelessDialog *dialog);
 
-    void createParts(QFrame *frame);
+    /** Builds everything inside @p contentFrame. */
+    void createWidgets(QFrame *contentFrame);
 
     // Hosts rebuild a dialog by deleting parts of it without telling it; each function then does
     // what is left to do.
@@ -36,26 +41,25 @@ public:
     QPointer<QVBoxLayout> outerLayout;
     QPointer<QHBoxLayout> bottomLayout;
     QPointer<QHBoxLayout> titleLayout;
-    QPointer<QHBoxLayout> centreLayout;
+    QPointer<QHBoxLayout> centerLayout;
     QPointer<QPushButton> okButton;
     QPointer<QPushButton> cancelButton;
     QPointer<QPushButton> applyButton;
-    VantoroFramelessDialog *q;
+    VantoroFramelessDialog *owner;
     FramelessHelper *helper = nullptr;
 
-    QPointer<QFrame> contentFrame;
-    bool tabOrderSettled = false;
-    KeyboardActivation keyboardActivation;
-
 protected:
-    /** Lets Tab reach the content before the buttons when the dialog is first shown. */
+    /** Waits for the first show, when the content is there. */
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    void createTitleBar();
-    void createCentre();
-    void createBottomRow();
+    void createTitleBar(QFrame *contentFrame);
+    void createCenter();
+    void createBottomRow(QFrame *contentFrame);
     void createHelper();
+    void setButtonLooks();
+
+    KeyboardActivation keyboardActivation;
 };
 
 } // namespace Widgets

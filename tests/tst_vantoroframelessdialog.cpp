@@ -1,6 +1,7 @@
 #include "lmtest.h"
 
 #include <lmwidgets/framelesshelper.h>
+#include <lmwidgets/talvostylemanager.h>
 #include <lmwidgets/titlebar.h>
 #include <lmwidgets/vantoroframelessdialog.h>
 
@@ -15,40 +16,55 @@
 #include <QToolButton>
 #include <QTranslator>
 #include <QVBoxLayout>
+#include <QWindow>
 
-#include <functional>
-
-using LM::Widgets::TalvoDialogBase;
+using LM::Widgets::FramelessHelper;
+using LM::Widgets::TalvoStyleManager;
 using LM::Widgets::TitleBar;
 using LM::Widgets::VantoroFramelessDialog;
 
 namespace {
 
-/** Counts what its buttons call. */
-class Dialog : public VantoroFramelessDialog
+/** A dialog that keeps its buttons from doing what they do. */
+class AskingDialog : public VantoroFramelessDialog
 {
 public:
     using VantoroFramelessDialog::VantoroFramelessDialog;
 
-    void slotUIButtonOk() override { count(&oks); }
-    void slotUIButtonCancel() override { count(&cancels); }
-    void slotUIButtonApply() override { count(&applies); }
+    void initStyleSheet() override { ++styles; }
+    void slotUIButtonOk() override { calls.append(QStringLiteral("ok")); }
+    void slotUIButtonCancel() override { calls.append(QStringLiteral("cancel")); }
+    void slotUIButtonApply() override { calls.append(QStringLiteral("apply")); }
 
-    int oks = 0;
-    int cancels = 0;
-    int applies = 0;
-    std::function<void()> onCall;
+    int styles = 0;
+    QStringList calls;
+};
 
-private:
-    void count(int *calls)
-    {
-        ++*calls;
-        // A copy, since it may destroy the dialog.
-        if (const std::function<void()> action = onCall) {
-            action();
+bool isSet(const QObject *object, const char *property)
+{
+    return object->property(property) == QVariant(true);
+}
+
+/** What Tab goes through from the first one on, hidden widgets too. */
+QVector<QWidget *> focusOrder(const QWidget &window)
+{
+    QVector<QWidget *> order;
+    for (QWidget *widget = window.nextInFocusChain(); widget != &window;
+         widget = widget->nextInFocusChain()) {
+        if (widget->focusPolicy() != Qt::NoFocus) {
+            order.append(widget);
         }
     }
-};
+    return order;
+}
+
+void drag(QWidget *widget, const QPoint &from, const QPoint &by)
+{
+    const QPoint start = widget->mapToGlobal(from);
+    lmtest::mouseAt(widget, QEvent::MouseButtonPress, start);
+    lmtest::mouseAt(widget, QEvent::MouseMove, start + by);
+    lmtest::mouseAt(widget, QEvent::MouseButtonRelease, start + by);
+}
 
 /** Puts the context before what it is asked for. */
 class MarkingTranslator : public QTranslator
@@ -63,16 +79,6 @@ public:
     }
 };
 
-QMargins margins(const QLayout *layout)
-{
-    return layout->contentsMargins();
-}
-
-bool isSet(const QObject *object, const char *property)
-{
-    return object->property(property) == QVariant(true);
-}
-
 } // namespace
 
 class tst_VantoroFramelessDialog : public lmtest::TestCase
@@ -80,64 +86,106 @@ class tst_VantoroFramelessDialog : public lmtest::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void metaObject();
+    void escapeLeavesItOpen();
+    void maxButtonIsShownByItsGetter();
     void windowFlags_data();
     void windowFlags();
-    void frame();
+
+    void metaObject();
+    void contentFrame();
     void shadow();
     void titleBar();
-    void helper();
-    void buttons();
-    void texts();
-    void layouts();
+    void titleButtons();
+    void bottomRow();
+    void layoutsOfTheFrame();
     void geometry();
-    void escapeLeavesItOpen();
-    void otherKeysGoOn();
-    void maximiseButtonIsShownByItsGetter();
-    void buttonsCallTheOverrides();
-    void closeButtonCancels();
-    void buttonsEndTheDialog();
+    void helper();
+    void dragBoundary_data();
+    void dragBoundary();
+    void resizing();
     void setLayout();
-    void setLayoutRefuses();
-    void setWindowTitle();
-    void contentComesFirstInTabOrder();
-    void dragMoves();
-    void dragAtTheEdgeDoesNotResize();
-    void deletedFromASlot_data();
-    void deletedFromASlot();
+    void setLayoutBadInput();
+    void windowTitle();
+    void buttonsEndTheDialog_data();
+    void buttonsEndTheDialog();
+    void overridesAreCalled();
+    void enterPressesTheDefaultButton();
+    void otherKeysReachTheDialog();
+    void themeSwitch();
+    void tabOrder();
+    void tabOrderOfTheHost();
+    void activation();
+    void partsDeleted();
+    void slotDeletesTheDialog_data();
+    void slotDeletesTheDialog();
+    void texts();
     void deletedParts();
     void parentDestroyed();
 };
 
-void tst_VantoroFramelessDialog::metaObject()
+void tst_VantoroFramelessDialog::escapeLeavesItOpen()
 {
-    QCOMPARE(lmtest::ownMethods(VantoroFramelessDialog::staticMetaObject),
-             QStringList({QStringLiteral("slot slotUIButtonOk()"),
-                          QStringLiteral("slot slotUIButtonCancel()"),
-                          QStringLiteral("slot slotUIButtonApply()")}));
-    QCOMPARE(VantoroFramelessDialog::staticMetaObject.superClass(),
-             &TalvoDialogBase::staticMetaObject);
+    VantoroFramelessDialog dialog;
+    const QSignalSpy finished(&dialog, &QDialog::finished);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    QTest::keyClick(dialog.windowHandle(), Qt::Key_Escape);
+    QTest::keyClick(&dialog, Qt::Key_Escape);
+    QTest::keyClick(&dialog, Qt::Key_Escape, Qt::ShiftModifier);
+    QTest::keyClick(dialog.getOKButton(), Qt::Key_Escape);
+    QVERIFY(dialog.isVisible());
+    QCOMPARE(finished.count(), 0);
+}
+
+void tst_VantoroFramelessDialog::maxButtonIsShownByItsGetter()
+{
+    VantoroFramelessDialog dialog;
+    dialog.show();
+    QVERIFY(!dialog.getTitleBar()->isTitleButtonVisible(TitleBar::MaxButton));
+    QCOMPARE(dialog.getWindowTitleMaxButton(),
+             dialog.getTitleBar()->titleButton(TitleBar::MaxButton));
+    QVERIFY(dialog.getTitleBar()->isTitleButtonVisible(TitleBar::MaxButton));
+    // From now on it is in use.
+    dialog.getTitleBar()->setMaximized(true);
+    QVERIFY(!dialog.getTitleBar()->isTitleButtonVisible(TitleBar::MaxButton));
+    dialog.getWindowTitleMaxButton();
+    QVERIFY(dialog.getTitleBar()->isTitleButtonVisible(TitleBar::MaxButton));
 }
 
 void tst_VantoroFramelessDialog::windowFlags_data()
 {
-    QTest::addColumn<int>("flags");
-    QTest::newRow("none") << 0;
-    QTest::newRow("tool") << int(Qt::Tool);
-    QTest::newRow("on top") << int(Qt::WindowStaysOnTopHint | Qt::WindowCloseButtonHint);
-    QTest::newRow("widget") << int(Qt::Widget | Qt::BypassWindowManagerHint);
+    QTest::addColumn<Qt::WindowFlags>("flags");
+    QTest::newRow("none") << Qt::WindowFlags();
+    QTest::newRow("tool") << Qt::WindowFlags(Qt::Tool);
+    QTest::newRow("on top") << (Qt::Window | Qt::WindowStaysOnTopHint);
+    QTest::newRow("bypass") << Qt::WindowFlags(Qt::BypassWindowManagerHint);
 }
 
 void tst_VantoroFramelessDialog::windowFlags()
 {
-    QFETCH(int, flags);
-    VantoroFramelessDialog dialog(nullptr, Qt::WindowFlags(flags));
-    QCOMPARE(int(dialog.windowFlags()), 0xC803);
-    dialog.show();
-    QCOMPARE(int(dialog.windowFlags()), 0xC803);
+    QFETCH(Qt::WindowFlags, flags);
+    QWidget parent;
+    for (QWidget *owner : {static_cast<QWidget *>(nullptr), &parent}) {
+        VantoroFramelessDialog dialog(owner, flags);
+        QCOMPARE(int(dialog.windowFlags()), 0xC803);
+        QVERIFY(dialog.isHidden());
+        QCOMPARE(dialog.parentWidget(), owner);
+        dialog.show();
+        QCOMPARE(int(dialog.windowFlags()), 0xC803);
+    }
 }
 
-void tst_VantoroFramelessDialog::frame()
+void tst_VantoroFramelessDialog::metaObject()
+{
+    QCOMPARE(lmtest::ownMethods(VantoroFramelessDialog::staticMetaObject),
+             (QStringList{QStringLiteral("slot slotUIButtonOk()"),
+                          QStringLiteral("slot slotUIButtonCancel()"),
+                          QStringLiteral("slot slotUIButtonApply()")}));
+    QCOMPARE(VantoroFramelessDialog::staticMetaObject.superClass(),
+             &LM::Widgets::TalvoDialogBase::staticMetaObject);
+}
+
+void tst_VantoroFramelessDialog::contentFrame()
 {
     VantoroFramelessDialog dialog;
     QFrame *frame = dialog.getCenterMainFrame();
@@ -147,76 +195,442 @@ void tst_VantoroFramelessDialog::frame()
     QCOMPARE(frame->sizePolicy(), QSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding));
     QCOMPARE(frame->styleSheet(),
              QStringLiteral("QFrame#m_pContentHoderFrame { border: 1px solid #585858; }"));
-    QCOMPARE(frame->parentWidget(), &dialog);
-
-    const QLayout *window = dialog.QWidget::layout();
-    QCOMPARE(window->count(), 1);
-    QCOMPARE(window->itemAt(0)->widget(), frame);
-    QCOMPARE(margins(window), QMargins());
-    QCOMPARE(window->spacing(), 0);
+    auto *main = qobject_cast<QVBoxLayout *>(dialog.QWidget::layout());
+    QVERIFY(main);
+    QCOMPARE(main->contentsMargins(), QMargins());
+    QCOMPARE(main->spacing(), 0);
+    QCOMPARE(main->count(), 1);
+    QCOMPARE(main->itemAt(0)->widget(), frame);
 }
 
 void tst_VantoroFramelessDialog::shadow()
 {
-    VantoroFramelessDialog dialog;
-    auto *shadow = qobject_cast<QGraphicsDropShadowEffect *>(dialog.graphicsEffect());
-    QVERIFY(shadow);
-    QCOMPARE(shadow->blurRadius(), 24.0);
-    QCOMPARE(shadow->offset(), QPointF(0.0, 4.0));
-    QCOMPARE(shadow->color(), QColor(0, 0, 0, 0));
+    const VantoroFramelessDialog dialog;
+    auto *effect = qobject_cast<QGraphicsDropShadowEffect *>(dialog.graphicsEffect());
+    QVERIFY(effect);
+    QCOMPARE(effect->blurRadius(), 24.0);
+    QCOMPARE(effect->offset(), QPointF(0, 4));
+    QCOMPARE(effect->color(), QColor(0, 0, 0, 0));
 }
 
 void tst_VantoroFramelessDialog::titleBar()
 {
     VantoroFramelessDialog dialog;
     TitleBar *bar = dialog.getTitleBar();
-    QVERIFY(bar);
     QVERIFY(isSet(bar, "isFramelessDialogTitleBar"));
     QVERIFY(isSet(bar, "transparentbackgroundwidget"));
     QVERIFY(isSet(bar->topLeftWidget(), "transparentbackgroundwidget"));
     QVERIFY(isSet(bar->titleLabel(), "vantorotitlecontent"));
-    QCOMPARE(bar->titleLabel()->styleSheet(), QStringLiteral("background-color:transparent;"));
-    QCOMPARE(bar->titleLabel()->alignment(), Qt::AlignLeft);
     QVERIFY(isSet(dialog.getWindowTitleCloseButton(), "transparentbackgroundbutton"));
-    QCOMPARE(dialog.getWindowTitleCloseButton(), bar->titleButton(TitleBar::CloseButton));
+    QCOMPARE(bar->titleLabel()->styleSheet(), QStringLiteral("background-color:transparent;"));
+    QCOMPARE(bar->titleLabel()->alignment(), Qt::Alignment(Qt::AlignLeft));
     QCOMPARE(bar->minimumHeight(), 48);
     QCOMPARE(bar->maximumHeight(), 48);
+    QVERIFY(!bar->isHidden());
+    QCOMPARE(dialog.getWindowTitleCloseButton(), bar->titleButton(TitleBar::CloseButton));
+}
 
+void tst_VantoroFramelessDialog::titleButtons()
+{
+    VantoroFramelessDialog dialog;
     dialog.show();
-    QVERIFY(bar->isVisible());
+    TitleBar *bar = dialog.getTitleBar();
     QVERIFY(bar->isTitleButtonVisible(TitleBar::CloseButton));
-    for (const int type : {TitleBar::LogoButton, TitleBar::MinButton, TitleBar::MaxButton,
-                           TitleBar::RestoreButton}) {
-        QVERIFY2(!bar->isTitleButtonVisible(type), qPrintable(QString::number(type)));
+    bar->setMaximized(true);
+    bar->setMaximized(false);
+    for (const int hidden : {TitleBar::LogoButton, TitleBar::MinButton, TitleBar::MaxButton,
+                             TitleBar::RestoreButton}) {
+        QVERIFY(!bar->isTitleButtonVisible(hidden));
     }
+}
+
+void tst_VantoroFramelessDialog::bottomRow()
+{
+    VantoroFramelessDialog dialog;
+    QHBoxLayout *row = dialog.bottomLayout();
+    QCOMPARE(row, dialog.bottomWidget()->layout());
+    QCOMPARE(row->contentsMargins(), QMargins(0, 16, 0, 16));
+    QCOMPARE(row->spacing(), 16);
+    QCOMPARE(row->count(), 4);
+    QVERIFY(row->itemAt(0)->spacerItem());
+    QCOMPARE(row->itemAt(1)->widget(), dialog.getCancelButton());
+    QCOMPARE(row->itemAt(2)->widget(), dialog.getApplyButton());
+    QCOMPARE(row->itemAt(3)->widget(), dialog.getOKButton());
+    QCOMPARE(dialog.bottomWidget()->minimumHeight(), 64);
+    QCOMPARE(dialog.bottomWidget()->maximumHeight(), 64);
+    QVERIFY(isSet(dialog.bottomWidget(), "transparentbackgroundwidget"));
+
+    QCOMPARE(dialog.getOKButton()->text(), QStringLiteral("OK"));
+    QCOMPARE(dialog.getCancelButton()->text(), QStringLiteral("Cancel"));
+    QCOMPARE(dialog.getApplyButton()->text(), QStringLiteral("Apply"));
+    QVERIFY(dialog.getOKButton()->isDefault());
+    QVERIFY(!dialog.getCancelButton()->isDefault());
+    QCOMPARE(dialog.getOKButton()->minimumWidth(), 85);
+    QCOMPARE(dialog.getCancelButton()->minimumWidth(), 85);
+    QCOMPARE(dialog.getApplyButton()->minimumWidth(), 0);
+    QVERIFY(dialog.getApplyButton()->isHidden());
+    QVERIFY(!dialog.getOKButton()->isHidden() && !dialog.getCancelButton()->isHidden());
+    QVERIFY(isSet(dialog.getOKButton(), "vantorookbutton"));
+    QVERIFY(isSet(dialog.getCancelButton(), "vantorcancelbbutton"));
+    QVERIFY(isSet(dialog.getApplyButton(), "vantorcancelbbutton"));
+}
+
+void tst_VantoroFramelessDialog::layoutsOfTheFrame()
+{
+    VantoroFramelessDialog dialog;
+    QLayout *outer = dialog.getCenterMainFrame()->layout();
+    QVERIFY(qobject_cast<QVBoxLayout *>(outer));
+    QCOMPARE(outer->contentsMargins(), QMargins());
+    QCOMPARE(outer->spacing(), 0);
+    QCOMPARE(outer->count(), 2);
+    QCOMPARE(outer->itemAt(0)->layout(), dialog.getTilteBarLayout());
+    QCOMPARE(outer->itemAt(1)->layout(), dialog.mainLayout());
+    QCOMPARE(dialog.getTilteBarLayout()->contentsMargins(), QMargins());
+    QCOMPARE(dialog.getTilteBarLayout()->spacing(), 0);
+    QCOMPARE(dialog.getTilteBarLayout()->itemAt(0)->widget(), dialog.getTitleBar());
+
+    QVERIFY(qobject_cast<QVBoxLayout *>(dialog.mainLayout()));
+    QCOMPARE(dialog.mainLayout()->contentsMargins(), QMargins(24, 0, 24, 0));
+    QCOMPARE(dialog.mainLayout()->spacing(), 0);
+    QCOMPARE(dialog.mainLayout()->count(), 2);
+    QCOMPARE(dialog.mainLayout()->itemAt(0)->layout(), dialog.getCenterHoderLayout());
+    QCOMPARE(dialog.mainLayout()->itemAt(1)->widget(), dialog.bottomWidget());
+    QCOMPARE(dialog.getCenterHoderLayout()->contentsMargins(), QMargins());
+    QCOMPARE(dialog.getCenterHoderLayout()->spacing(), 0);
+    QCOMPARE(dialog.getCenterHoderLayout()->count(), 1);
+    QCOMPARE(dialog.getCenterHoderLayout()->itemAt(0)->widget(), dialog.getContentHolder());
+    QVERIFY(isSet(dialog.getContentHolder(), "centercontentgrayframe"));
+    QVERIFY(dialog.getContentHolder()->objectName().isEmpty());
+}
+
+void tst_VantoroFramelessDialog::geometry()
+{
+    VantoroFramelessDialog dialog;
+    dialog.setLayout(new QVBoxLayout);
+    dialog.resize(500, 400);
+    dialog.show();
+    QCOMPARE(dialog.size(), QSize(500, 400));
+    // One px of border all around.
+    const auto place = [&dialog](QWidget *widget) {
+        return QRect(widget->mapTo(&dialog, QPoint()), widget->size());
+    };
+    QCOMPARE(place(dialog.getTitleBar()), QRect(1, 1, 498, 48));
+    QCOMPARE(place(dialog.getContentHolder()), QRect(25, 49, 450, 286));
+    QCOMPARE(place(dialog.bottomWidget()), QRect(25, 335, 450, 64));
+    QCOMPARE(place(dialog.getOKButton()).right(), 474);
+    const QImage picture = dialog.grab().toImage();
+    QCOMPARE(picture.pixelColor(0, 200), QColor(0x58, 0x58, 0x58));
+    QCOMPARE(picture.pixelColor(250, 399), QColor(0x58, 0x58, 0x58));
+    QCOMPARE(picture.pixelColor(100, 100), QColor(0x36, 0x36, 0x36));
 }
 
 void tst_VantoroFramelessDialog::helper()
 {
+    FramelessHelper other;
+    other.setTitleHeight(30);
     VantoroFramelessDialog dialog;
-    LM::Widgets::FramelessHelper *helper = dialog.getFramelessHelper();
+    FramelessHelper *helper = dialog.getFramelessHelper();
     QVERIFY(helper);
-    QCOMPARE(helper->titleHeight(), 48u);
-    QVERIFY(!helper->widgetResizable());
+    QCOMPARE(helper->titleHeight(), 48U);
     QVERIFY(helper->widgetMovable());
+    QVERIFY(!helper->widgetResizable());
+    QVERIFY(!helper->rubberBandOnMove());
     QVERIFY(!helper->rubberBandOnResisze());
+    QVERIFY(dialog.hasMouseTracking());
 }
 
-void tst_VantoroFramelessDialog::buttons()
+void tst_VantoroFramelessDialog::dragBoundary_data()
+{
+    QTest::addColumn<int>("y");
+    QTest::addColumn<bool>("moves");
+    QTest::newRow("top edge") << 0 << true;
+    QTest::newRow("last row of the title area") << 57 << true;
+    QTest::newRow("below the title area") << 58 << false;
+}
+
+void tst_VantoroFramelessDialog::dragBoundary()
+{
+    QFETCH(int, y);
+    QFETCH(bool, moves);
+    VantoroFramelessDialog dialog;
+    dialog.setGeometry(100, 100, 400, 300);
+    dialog.show();
+    drag(&dialog, QPoint(200, y), QPoint(30, 20));
+    QCOMPARE(dialog.geometry(), moves ? QRect(130, 120, 400, 300) : QRect(100, 100, 400, 300));
+}
+
+void tst_VantoroFramelessDialog::resizing()
 {
     VantoroFramelessDialog dialog;
-    QVERIFY(isSet(dialog.getOKButton(), "vantorookbutton"));
-    QVERIFY(isSet(dialog.getCancelButton(), "vantorcancelbbutton"));
-    QVERIFY(isSet(dialog.getApplyButton(), "vantorcancelbbutton"));
-    QCOMPARE(dialog.getOKButton()->minimumWidth(), 85);
-    QCOMPARE(dialog.getCancelButton()->minimumWidth(), 85);
-    QCOMPARE(dialog.getApplyButton()->minimumWidth(), 0);
-    QVERIFY(dialog.getOKButton()->isDefault());
-    QVERIFY(dialog.getApplyButton()->isHidden());
-    QVERIFY(!dialog.getCancelButton()->isHidden());
-    QVERIFY(isSet(dialog.bottomWidget(), "transparentbackgroundwidget"));
-    QCOMPARE(dialog.bottomWidget()->minimumHeight(), 64);
-    QCOMPARE(dialog.bottomWidget()->maximumHeight(), 64);
+    dialog.setGeometry(100, 100, 400, 300);
+    dialog.show();
+    drag(&dialog, QPoint(399, 200), QPoint(50, 0));
+    QCOMPARE(dialog.width(), 400);
+    dialog.getFramelessHelper()->setWidgetResizable(true);
+    drag(&dialog, QPoint(399, 200), QPoint(50, 0));
+    QVERIFY(dialog.width() >= 449);
+    // The size is not frozen by a show, unlike that of the other frame.
+    dialog.hide();
+    dialog.show();
+    dialog.resize(600, 400);
+    QCOMPARE(dialog.size(), QSize(600, 400));
+}
+
+void tst_VantoroFramelessDialog::setLayout()
+{
+    VantoroFramelessDialog dialog;
+    QVERIFY(!dialog.layout());
+    QVERIFY(!dialog.getContentHolderLayout());
+    auto *layout = new QVBoxLayout;
+    auto *edit = new QLineEdit;
+    layout->addWidget(edit);
+    dialog.setLayout(layout);
+    QCOMPARE(dialog.layout(), layout);
+    QCOMPARE(dialog.getContentHolderLayout(), layout);
+    QCOMPARE(dialog.getContentHolder()->layout(), layout);
+    QCOMPARE(edit->parentWidget(), dialog.getContentHolder());
+    QCOMPARE(dialog.getContentHolder()->objectName(), QStringLiteral("m_pCentreContentWidget"));
+    QCOMPARE(dialog.getContentHolder()->styleSheet(),
+             QStringLiteral("QWidget{background-color:#363636;}"));
+    QVERIFY(dialog.QWidget::layout() != layout);
+}
+
+void tst_VantoroFramelessDialog::setLayoutBadInput()
+{
+    VantoroFramelessDialog dialog;
+    QLayout *const frameLayout = dialog.QWidget::layout();
+    QLayout *const outer = dialog.getCenterMainFrame()->layout();
+    dialog.setLayout(nullptr);
+    dialog.setLayout(frameLayout);
+    dialog.setLayout(outer);
+    dialog.setLayout(dialog.mainLayout());
+    dialog.setLayout(dialog.bottomLayout());
+    QVERIFY(!dialog.layout());
+    QVERIFY(dialog.getContentHolder()->objectName().isEmpty());
+    QCOMPARE(dialog.QWidget::layout(), frameLayout);
+    QCOMPARE(dialog.getCenterMainFrame()->layout(), outer);
+    QCOMPARE(dialog.bottomWidget()->layout(), dialog.bottomLayout());
+
+    QWidget other;
+    auto *used = new QVBoxLayout(&other);
+    dialog.setLayout(used);
+    QVERIFY(!dialog.layout());
+    QCOMPARE(other.layout(), used);
+
+    // One that was made with the dialog as its parent, to which Qt objects by itself.
+    QTest::ignoreMessage(QtWarningMsg,
+                         "QLayout: Attempting to add QLayout \"\" to "
+                         "LM::Widgets::VantoroFramelessDialog \"\", which already has a layout");
+    auto *meant = new QVBoxLayout(&dialog);
+    dialog.setLayout(meant);
+    QCOMPARE(dialog.layout(), meant);
+    QCOMPARE(dialog.QWidget::layout(), frameLayout);
+    dialog.setLayout(meant);
+    QCOMPARE(dialog.layout(), meant);
+
+    QTest::ignoreMessage(QtWarningMsg,
+                         "QWidget::setLayout: Attempting to set QLayout \"\" on QFrame "
+                         "\"m_pCentreContentWidget\", which already has a layout");
+    QVBoxLayout second;
+    dialog.setLayout(&second);
+    QCOMPARE(dialog.layout(), meant);
+}
+
+void tst_VantoroFramelessDialog::windowTitle()
+{
+    VantoroFramelessDialog dialog;
+    dialog.setWindowTitle(QStringLiteral("Settings"));
+    QCOMPARE(dialog.getTitleBar()->title(), QStringLiteral("Settings"));
+    QCOMPARE(dialog.getTitleBar()->titleLabel()->alignment(), Qt::AlignLeft | Qt::AlignVCenter);
+    QVERIFY(dialog.getTitleBar()->styleSheet().isEmpty());
+    QCOMPARE(dialog.accessibleName(), QStringLiteral("Settings"));
+    dialog.setAccessibleName(QStringLiteral("mine"));
+    dialog.setWindowTitle(QStringLiteral("Other"));
+    QCOMPARE(dialog.accessibleName(), QStringLiteral("mine"));
+}
+
+void tst_VantoroFramelessDialog::buttonsEndTheDialog_data()
+{
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<QString>("signal");
+    QTest::newRow("OK") << QStringLiteral("ok") << QStringLiteral("accepted");
+    QTest::newRow("Cancel") << QStringLiteral("cancel") << QStringLiteral("rejected");
+    QTest::newRow("close") << QStringLiteral("close") << QStringLiteral("rejected");
+    QTest::newRow("Apply") << QStringLiteral("apply") << QString();
+}
+
+void tst_VantoroFramelessDialog::buttonsEndTheDialog()
+{
+    QFETCH(QString, button);
+    QFETCH(QString, signal);
+    VantoroFramelessDialog dialog;
+    dialog.getApplyButton()->show();
+    dialog.show();
+    QStringList signalNames;
+    connect(&dialog, &QDialog::accepted, this, [&] { signalNames.append("accepted"); });
+    connect(&dialog, &QDialog::rejected, this, [&] { signalNames.append("rejected"); });
+    const QHash<QString, QAbstractButton *> buttons = {
+        {"ok", dialog.getOKButton()},
+        {"cancel", dialog.getCancelButton()},
+        {"apply", dialog.getApplyButton()},
+        {"close", dialog.getWindowTitleCloseButton()}};
+    QTest::mouseClick(buttons.value(button), Qt::LeftButton);
+    QCOMPARE(signalNames, signal.isEmpty() ? QStringList() : QStringList(signal));
+    QCOMPARE(dialog.isVisible(), signal.isEmpty());
+}
+
+void tst_VantoroFramelessDialog::overridesAreCalled()
+{
+    AskingDialog dialog;
+    dialog.getApplyButton()->show();
+    dialog.show();
+    QTest::mouseClick(dialog.getOKButton(), Qt::LeftButton);
+    QTest::mouseClick(dialog.getCancelButton(), Qt::LeftButton);
+    QTest::mouseClick(dialog.getApplyButton(), Qt::LeftButton);
+    QTest::mouseClick(dialog.getWindowTitleCloseButton(), Qt::LeftButton);
+    QVERIFY(QMetaObject::invokeMethod(&dialog, "slotUIButtonApply"));
+    QCOMPARE(dialog.calls, (QStringList{"ok", "cancel", "apply", "cancel", "apply"}));
+    QVERIFY(dialog.isVisible());
+}
+
+void tst_VantoroFramelessDialog::enterPressesTheDefaultButton()
+{
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+        AskingDialog dialog;
+        auto *edit = new QLineEdit;
+        auto *layout = new QVBoxLayout;
+        layout->addWidget(edit);
+        dialog.setLayout(layout);
+        dialog.show();
+        edit->setFocus();
+        QTest::keyClick(edit, key);
+        QCOMPARE(dialog.calls, QStringList("ok"));
+    }
+}
+
+void tst_VantoroFramelessDialog::otherKeysReachTheDialog()
+{
+    // QDialog ignores what it does not know, so that the window system may have it.
+    class Sensor : public VantoroFramelessDialog
+    {
+    public:
+        bool ignores(int key)
+        {
+            QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
+            keyPressEvent(&event);
+            return !event.isAccepted();
+        }
+    } dialog;
+    QVERIFY(dialog.ignores(Qt::Key_F5));
+    QVERIFY(!dialog.ignores(Qt::Key_Escape));
+}
+
+void tst_VantoroFramelessDialog::themeSwitch()
+{
+    AskingDialog dialog;
+    QCOMPARE(dialog.styles, 0);
+    TalvoStyleManager::instance()->shiftStyle(TalvoStyleManager::White);
+    QCOMPARE(dialog.styles, 1);
+    TalvoStyleManager::instance()->shiftStyle(TalvoStyleManager::Black);
+    QCOMPARE(dialog.styles, 2);
+}
+
+void tst_VantoroFramelessDialog::tabOrder()
+{
+    VantoroFramelessDialog dialog;
+    auto *first = new QLineEdit;
+    auto *second = new QLineEdit;
+    auto *layout = new QVBoxLayout;
+    layout->addWidget(first);
+    layout->addWidget(second);
+    dialog.setLayout(layout);
+    dialog.getApplyButton()->show();
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    const QVector<QWidget *> expected = {
+        first, second, dialog.getCancelButton(), dialog.getApplyButton(), dialog.getOKButton(),
+        first};
+    for (int i = 0; i + 1 < expected.size(); ++i) {
+        QTRY_COMPARE(QApplication::focusWidget(), expected.at(i));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    }
+    QCOMPARE(QApplication::focusWidget(), first);
+}
+
+void tst_VantoroFramelessDialog::tabOrderOfTheHost()
+{
+    VantoroFramelessDialog dialog;
+    auto *edit = new QLineEdit;
+    auto *layout = new QVBoxLayout;
+    layout->addWidget(edit);
+    dialog.setLayout(layout);
+    QWidget::setTabOrder(dialog.getCancelButton(), dialog.getOKButton());
+    QWidget::setTabOrder(dialog.getOKButton(), edit);
+    const QVector<QWidget *> order = focusOrder(dialog);
+    dialog.show();
+    QCOMPARE(focusOrder(dialog), order);
+    QVERIFY(order.indexOf(dialog.getOKButton()) < order.indexOf(edit));
+}
+
+void tst_VantoroFramelessDialog::activation()
+{
+    VantoroFramelessDialog dialog;
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&other));
+    QTest::mouseClick(dialog.windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(60, 60));
+    QTRY_VERIFY(dialog.isActiveWindow());
+}
+
+void tst_VantoroFramelessDialog::partsDeleted()
+{
+    VantoroFramelessDialog dialog;
+    delete dialog.getTitleBar();
+    delete dialog.getOKButton();
+    delete dialog.getContentHolder();
+    delete dialog.bottomWidget();
+    QVERIFY(!dialog.getTitleBar());
+    QVERIFY(!dialog.getOKButton() && !dialog.getCancelButton() && !dialog.getApplyButton());
+    QVERIFY(!dialog.getContentHolder() && !dialog.bottomWidget());
+    QVERIFY(!dialog.getWindowTitleCloseButton() && !dialog.getWindowTitleMaxButton());
+    dialog.setWindowTitle(QStringLiteral("nobody sees it"));
+    QVBoxLayout layout;
+    dialog.setLayout(&layout);
+    QVERIFY(!dialog.layout());
+    dialog.show();
+    QVERIFY(dialog.isVisible());
+    dialog.slotUIButtonCancel();
+    QVERIFY(!dialog.isVisible());
+}
+
+void tst_VantoroFramelessDialog::slotDeletesTheDialog_data()
+{
+    QTest::addColumn<QString>("button");
+    QTest::newRow("OK") << QStringLiteral("ok");
+    QTest::newRow("Cancel") << QStringLiteral("cancel");
+    QTest::newRow("close") << QStringLiteral("close");
+}
+
+void tst_VantoroFramelessDialog::slotDeletesTheDialog()
+{
+    QFETCH(QString, button);
+    const QPointer<VantoroFramelessDialog> dialog = new VantoroFramelessDialog;
+    const auto remove = [dialog] { delete dialog.data(); };
+    connect(dialog, &QDialog::accepted, this, remove);
+    connect(dialog, &QDialog::rejected, this, remove);
+    dialog->resize(400, 300);
+    dialog->show();
+    QVERIFY(QTest::qWaitForWindowActive(dialog));
+    QWidget *target = dialog->getWindowTitleCloseButton();
+    if (button != QLatin1String("close")) {
+        target = button == QLatin1String("ok") ? dialog->getOKButton() : dialog->getCancelButton();
+    }
+    QTest::mouseClick(dialog->windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                      target->mapTo(dialog, target->rect().center()));
+    QTRY_VERIFY(!dialog);
 }
 
 void tst_VantoroFramelessDialog::texts()
@@ -238,283 +652,6 @@ void tst_VantoroFramelessDialog::texts()
                  QStringLiteral("LM::Widgets::VantoroFramelessDialogPrivate#Apply"));
     }
     QCoreApplication::removeTranslator(&translator);
-}
-
-void tst_VantoroFramelessDialog::layouts()
-{
-    VantoroFramelessDialog dialog;
-    QCOMPARE(margins(dialog.mainLayout()), QMargins(24, 0, 24, 0));
-    QCOMPARE(dialog.mainLayout()->spacing(), 0);
-    QCOMPARE(dialog.mainLayout()->count(), 2);
-    QCOMPARE(dialog.mainLayout()->itemAt(0)->layout(), dialog.getCenterHoderLayout());
-    QCOMPARE(dialog.mainLayout()->itemAt(1)->widget(), dialog.bottomWidget());
-
-    QCOMPARE(margins(dialog.getCenterHoderLayout()), QMargins());
-    QCOMPARE(dialog.getCenterHoderLayout()->spacing(), 0);
-    QCOMPARE(dialog.getCenterHoderLayout()->itemAt(0)->widget(), dialog.getContentHolder());
-    QVERIFY(isSet(dialog.getContentHolder(), "centercontentgrayframe"));
-
-    QCOMPARE(margins(dialog.getTilteBarLayout()), QMargins());
-    QCOMPARE(dialog.getTilteBarLayout()->spacing(), 0);
-    QCOMPARE(dialog.getTilteBarLayout()->itemAt(0)->widget(), dialog.getTitleBar());
-
-    const QLayout *outer = dialog.getCenterMainFrame()->layout();
-    QVERIFY(qobject_cast<const QVBoxLayout *>(outer));
-    QCOMPARE(margins(outer), QMargins());
-    QCOMPARE(outer->spacing(), 0);
-    QCOMPARE(outer->itemAt(0)->layout(), dialog.getTilteBarLayout());
-    QCOMPARE(outer->itemAt(1)->layout(), dialog.mainLayout());
-
-    const QHBoxLayout *bottom = dialog.bottomLayout();
-    QCOMPARE(dialog.bottomWidget()->layout(), bottom);
-    QCOMPARE(margins(bottom), QMargins(0, 16, 0, 16));
-    QCOMPARE(bottom->spacing(), 16);
-    QCOMPARE(bottom->count(), 4);
-    QVERIFY(bottom->itemAt(0)->spacerItem());
-    QCOMPARE(bottom->itemAt(1)->widget(), dialog.getCancelButton());
-    QCOMPARE(bottom->itemAt(2)->widget(), dialog.getApplyButton());
-    QCOMPARE(bottom->itemAt(3)->widget(), dialog.getOKButton());
-}
-
-void tst_VantoroFramelessDialog::geometry()
-{
-    VantoroFramelessDialog dialog;
-    dialog.resize(500, 400);
-    dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-    const auto place = [&](const QWidget *widget) {
-        return QRect(widget->mapTo(&dialog, QPoint()), widget->size());
-    };
-    QCOMPARE(place(dialog.getCenterMainFrame()), QRect(0, 0, 500, 400));
-    // Inside the border of 1 px.
-    QCOMPARE(place(dialog.getTitleBar()), QRect(1, 1, 498, 48));
-    QCOMPARE(place(dialog.getContentHolder()), QRect(25, 49, 450, 286));
-    QCOMPARE(place(dialog.bottomWidget()), QRect(25, 335, 450, 64));
-    QCOMPARE(place(dialog.getOKButton()).right(), 474);
-}
-
-void tst_VantoroFramelessDialog::escapeLeavesItOpen()
-{
-    VantoroFramelessDialog dialog;
-    QSignalSpy finished(&dialog, &QDialog::finished);
-    dialog.show();
-    QTest::keyClick(&dialog, Qt::Key_Escape);
-    QTest::keyClick(dialog.getCancelButton(), Qt::Key_Escape);
-    QTest::keyClick(&dialog, Qt::Key_Escape, Qt::ShiftModifier);
-    QVERIFY(dialog.isVisible());
-    QCOMPARE(finished.count(), 0);
-}
-
-void tst_VantoroFramelessDialog::otherKeysGoOn()
-{
-    Dialog dialog;
-    dialog.show();
-    QTest::keyClick(&dialog, Qt::Key_Return);
-    QCOMPARE(dialog.oks, 1);
-    QTest::keyClick(&dialog, Qt::Key_A);
-    QCOMPARE(dialog.oks, 1);
-}
-
-void tst_VantoroFramelessDialog::maximiseButtonIsShownByItsGetter()
-{
-    VantoroFramelessDialog dialog;
-    dialog.show();
-    TitleBar *bar = dialog.getTitleBar();
-    QVERIFY(!bar->isTitleButtonVisible(TitleBar::MaxButton));
-    QToolButton *button = dialog.getWindowTitleMaxButton();
-    QCOMPARE(button, bar->titleButton(TitleBar::MaxButton));
-    QVERIFY(button->isVisible());
-    // Whoever shows it connects it.
-    QTest::mouseClick(button, Qt::LeftButton);
-    QVERIFY(!dialog.isMaximized());
-    QVERIFY(dialog.isVisible());
-}
-
-void tst_VantoroFramelessDialog::buttonsCallTheOverrides()
-{
-    Dialog dialog;
-    dialog.getApplyButton()->show();
-    dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-    QTest::mouseClick(dialog.getOKButton(), Qt::LeftButton);
-    QCOMPARE(dialog.oks, 1);
-    QTest::mouseClick(dialog.getCancelButton(), Qt::LeftButton);
-    QCOMPARE(dialog.cancels, 1);
-    QTest::mouseClick(dialog.getApplyButton(), Qt::LeftButton);
-    QCOMPARE(dialog.applies, 1);
-    QVERIFY(dialog.isVisible());
-}
-
-void tst_VantoroFramelessDialog::closeButtonCancels()
-{
-    Dialog counting;
-    counting.show();
-    QTest::mouseClick(counting.getWindowTitleCloseButton(), Qt::LeftButton);
-    QCOMPARE(counting.cancels, 1);
-    QVERIFY(counting.isVisible());
-
-    VantoroFramelessDialog dialog;
-    QSignalSpy rejected(&dialog, &QDialog::rejected);
-    dialog.show();
-    QTest::mouseClick(dialog.getWindowTitleCloseButton(), Qt::LeftButton);
-    QCOMPARE(rejected.count(), 1);
-    QVERIFY(!dialog.isVisible());
-}
-
-void tst_VantoroFramelessDialog::buttonsEndTheDialog()
-{
-    VantoroFramelessDialog dialog;
-    dialog.getApplyButton()->show();
-    dialog.show();
-    QTest::mouseClick(dialog.getApplyButton(), Qt::LeftButton);
-    QVERIFY(dialog.isVisible());
-    QTest::mouseClick(dialog.getOKButton(), Qt::LeftButton);
-    QVERIFY(!dialog.isVisible());
-    QCOMPARE(dialog.result(), int(QDialog::Accepted));
-    dialog.show();
-    QTest::mouseClick(dialog.getCancelButton(), Qt::LeftButton);
-    QVERIFY(!dialog.isVisible());
-    QCOMPARE(dialog.result(), int(QDialog::Rejected));
-}
-
-void tst_VantoroFramelessDialog::setLayout()
-{
-    VantoroFramelessDialog dialog;
-    QVERIFY(!dialog.layout());
-    QVERIFY(!dialog.getContentHolderLayout());
-    QVERIFY(dialog.getContentHolder()->styleSheet().isEmpty());
-
-    auto *layout = new QVBoxLayout;
-    auto *input = new QLineEdit;
-    layout->addWidget(input);
-    dialog.setLayout(layout);
-    QCOMPARE(dialog.layout(), layout);
-    QCOMPARE(dialog.getContentHolderLayout(), layout);
-    QCOMPARE(dialog.getContentHolder()->layout(), layout);
-    QCOMPARE(dialog.getContentHolder()->objectName(), QStringLiteral("m_pCentreContentWidget"));
-    QCOMPARE(dialog.getContentHolder()->styleSheet(),
-             QStringLiteral("QWidget{background-color:#363636;}"));
-    QCOMPARE(input->parentWidget(), dialog.getContentHolder());
-
-    // As in a subclass that was written for QDialog.
-    VantoroFramelessDialog second;
-    auto *own = new QVBoxLayout;
-    own->setParent(&second);
-    second.setLayout(own);
-    QCOMPARE(second.layout(), own);
-}
-
-void tst_VantoroFramelessDialog::setLayoutRefuses()
-{
-    VantoroFramelessDialog dialog;
-    dialog.setLayout(nullptr);
-    QVERIFY(!dialog.layout());
-    dialog.setLayout(dialog.QWidget::layout());
-    QVERIFY(!dialog.layout());
-    dialog.setLayout(dialog.mainLayout());
-    QVERIFY(!dialog.layout());
-
-    QWidget other;
-    auto *used = new QVBoxLayout(&other);
-    dialog.setLayout(used);
-    QVERIFY(!dialog.layout());
-    QCOMPARE(other.layout(), used);
-
-    auto *first = new QVBoxLayout;
-    dialog.setLayout(first);
-    auto *second = new QVBoxLayout;
-    dialog.setLayout(second);
-    QCOMPARE(dialog.layout(), first);
-    delete second;
-    delete first;
-    auto *third = new QVBoxLayout;
-    dialog.setLayout(third);
-    QCOMPARE(dialog.layout(), third);
-}
-
-void tst_VantoroFramelessDialog::setWindowTitle()
-{
-    VantoroFramelessDialog dialog;
-    dialog.setWindowTitle(QStringLiteral("Layers"));
-    QCOMPARE(dialog.getTitleBar()->title(), QStringLiteral("Layers"));
-    QVERIFY(dialog.windowTitle().isEmpty());
-    QCOMPARE(dialog.accessibleName(), QStringLiteral("Layers"));
-    dialog.setAccessibleName(QStringLiteral("of the host"));
-    dialog.setWindowTitle(QStringLiteral("More"));
-    QCOMPARE(dialog.accessibleName(), QStringLiteral("of the host"));
-}
-
-void tst_VantoroFramelessDialog::contentComesFirstInTabOrder()
-{
-    VantoroFramelessDialog dialog;
-    auto *layout = new QVBoxLayout;
-    auto *first = new QLineEdit;
-    auto *second = new QLineEdit;
-    layout->addWidget(first);
-    layout->addWidget(second);
-    dialog.setLayout(layout);
-    dialog.show();
-    QVERIFY(QTest::qWaitForWindowActive(&dialog));
-    QTRY_COMPARE(QApplication::focusWidget(), first);
-    for (QWidget *expected :
-         QVector<QWidget *>{second, dialog.getCancelButton(), dialog.getOKButton(), first}) {
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-        QCOMPARE(QApplication::focusWidget(), expected);
-    }
-}
-
-void tst_VantoroFramelessDialog::dragMoves()
-{
-    VantoroFramelessDialog dialog;
-    dialog.setGeometry(100, 100, 400, 300);
-    dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-    const QPoint grip(150, 20);
-    lmtest::mouse(&dialog, QEvent::MouseButtonPress, grip);
-    lmtest::mouseAt(&dialog, QEvent::MouseMove, QPoint(100, 100) + grip + QPoint(30, 20),
-                    Qt::NoButton);
-    lmtest::mouseAt(&dialog, QEvent::MouseButtonRelease, QPoint(130, 120) + grip, Qt::LeftButton,
-                    Qt::NoButton);
-    QCOMPARE(dialog.pos(), QPoint(130, 120));
-    QCOMPARE(dialog.size(), QSize(400, 300));
-}
-
-void tst_VantoroFramelessDialog::dragAtTheEdgeDoesNotResize()
-{
-    VantoroFramelessDialog dialog;
-    dialog.setGeometry(100, 100, 400, 300);
-    dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-    const QPoint grip(399, 200);
-    lmtest::hoverMove(&dialog, grip);
-    lmtest::mouse(&dialog, QEvent::MouseButtonPress, grip);
-    lmtest::mouseAt(&dialog, QEvent::MouseMove, QPoint(540, 300), Qt::NoButton);
-    lmtest::mouseAt(&dialog, QEvent::MouseButtonRelease, QPoint(540, 300), Qt::LeftButton,
-                    Qt::NoButton);
-    QCOMPARE(dialog.geometry(), QRect(100, 100, 400, 300));
-}
-
-void tst_VantoroFramelessDialog::deletedFromASlot_data()
-{
-    QTest::addColumn<int>("which");
-    QTest::newRow("ok") << 0;
-    QTest::newRow("cancel") << 1;
-    QTest::newRow("apply") << 2;
-    QTest::newRow("close") << 3;
-}
-
-void tst_VantoroFramelessDialog::deletedFromASlot()
-{
-    QFETCH(int, which);
-    const QPointer<Dialog> dialog = new Dialog;
-    dialog->getApplyButton()->show();
-    dialog->show();
-    const QVector<QAbstractButton *> buttons = {dialog->getOKButton(), dialog->getCancelButton(),
-                                                dialog->getApplyButton(),
-                                                dialog->getWindowTitleCloseButton()};
-    dialog->onCall = [&] { delete dialog.data(); };
-    QTest::mouseClick(buttons.at(which), Qt::LeftButton);
-    QVERIFY(!dialog);
 }
 
 void tst_VantoroFramelessDialog::deletedParts()
@@ -553,4 +690,5 @@ void tst_VantoroFramelessDialog::parentDestroyed()
 }
 
 LMTEST_MAIN(tst_VantoroFramelessDialog)
+
 #include "tst_vantoroframelessdialog.moc"

@@ -8,8 +8,9 @@
 #include "layerscenario.h"
 #include "progressscenario.h"
 #include "reporter.h"
-#include "smallwidgetsscenario.h"
 #include "sliderscenario.h"
+#include "smallwidgetsscenario.h"
+#include "waitingscenario.h"
 
 #include <lmwidgets/framelessdialog.h>
 #include <lmwidgets/framelessmessagebox.h>
@@ -293,6 +294,8 @@ QHash<QString, std::function<void()>> scenarios()
         {QStringLiteral("desktop-link"), runDesktopLink},
         {QStringLiteral("progress"), runProgress},
         {QStringLiteral("slider"), runSlider},
+        {QStringLiteral("waiting"), runWaiting},
+        {QStringLiteral("secondframe"), runSecondFrame},
         {QStringLiteral("maximized-first"),
          [] { makeDialogWithTitleButtons(nullptr)->showMaximized(); }},
     };
