@@ -35,9 +35,11 @@
 #include <lmwidgets/talvoanimatedicon.h>
 #include <lmwidgets/talvobasicutil.h>
 #include <lmwidgets/talvodialogbase.h>
+#include <lmwidgets/talvodoubleinputdlg.h>
 #include <lmwidgets/talvodoubleslider.h>
 #include <lmwidgets/talvosplashscreen.h>
 #include <lmwidgets/talvostylemanager.h>
+#include <lmwidgets/talvotriangledlg.h>
 #include <lmwidgets/titlebar.h>
 #include <lmwidgets/toggleswitch.h>
 #include <lmwidgets/vantoroframelessdialog.h>
