@@ -12,6 +12,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QEvent>
+#include <QEventLoop>
 #include <QImage>
 #include <QPainter>
 #include <QPixmap>
@@ -32,6 +33,9 @@ namespace {
 
 constexpr int PageWidth = 960;
 constexpr int SettleLimit = 5000;
+// How long a picture has to stay the same to be still, and how long that is waited for, in ms.
+constexpr int StillTime = 40;
+constexpr int StillLimit = 800;
 constexpr int EventSlice = 20;
 constexpr int QuietRounds = 2;
 
@@ -144,6 +148,25 @@ private:
     QTextStream &m_err;
 };
 
+/**
+ * Waits until two pictures of @p widget some time apart are the same: what slides into place at the
+ * start has arrived. Something that moves for ever is waited for a while only.
+ */
+void waitUntilStill(QWidget *widget)
+{
+    QElapsedTimer timer;
+    timer.start();
+    QImage former;
+    QImage picture = takePicture(widget);
+    while (picture != former && timer.elapsed() < StillLimit) {
+        QEventLoop loop;
+        QTimer::singleShot(StillTime, &loop, &QEventLoop::quit);
+        loop.exec(QEventLoop::ExcludeUserInputEvents);
+        former = picture;
+        picture = takePicture(widget);
+    }
+}
+
 bool shootPage(const Page &page, const QString &prefix, Camera &camera)
 {
     SignalLog log;
@@ -159,6 +182,7 @@ bool shootPage(const Page &page, const QString &prefix, Camera &camera)
     if (QWidget *focused = view->focusWidget()) {
         focused->clearFocus();
     }
+    waitUntilStill(view);
     bool written = camera.take(view, prefix + page.name());
     for (const Shot &shot : page.shots()) {
         const QString name = prefix + page.name() + QLatin1Char('-') + shot.name;
