@@ -8,6 +8,7 @@
 #include "layerscenario.h"
 #include "progressscenario.h"
 #include "reporter.h"
+#include "shapesscenario.h"
 #include "sliderscenario.h"
 #include "smallwidgetsscenario.h"
 #include "waitingscenario.h"
@@ -294,6 +295,9 @@ QHash<QString, std::function<void()>> scenarios()
         {QStringLiteral("desktop-link"), runDesktopLink},
         {QStringLiteral("progress"), runProgress},
         {QStringLiteral("slider"), runSlider},
+        {QStringLiteral("switches"), runSwitches},
+        {QStringLiteral("value"), runValueDialog},
+        {QStringLiteral("balloon"), runBalloon},
         {QStringLiteral("waiting"), runWaiting},
         {QStringLiteral("secondframe"), runSecondFrame},
         {QStringLiteral("maximized-first"),
