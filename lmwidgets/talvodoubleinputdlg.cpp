@@ -5,7 +5,10 @@
 #include <QFile>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QMetaMethod>
 #include <QPointer>
+#include <QSignalBlocker>
+#include <QtNumeric>
 #include <QVBoxLayout>
 
 namespace {
@@ -31,6 +34,46 @@ Object *named(Object *object, const char *name)
 {
     object->setObjectName(QLatin1String(name));
     return object;
+}
+
+/** Emits what a spin box does when its value has changed; any slot may destroy it. */
+void tellOfValue(const QPointer<QDoubleSpinBox> &box)
+{
+    const double value = box->value();
+    const QString text = box->text();
+    // Deprecated since Qt 5.14, and still there for the hosts that are connected to it.
+    const QMetaObject *type = box->metaObject();
+    const int textSignal = type->indexOfSignal("valueChanged(QString)");
+    if (textSignal >= 0) {
+        type->method(textSignal).invoke(box, Qt::DirectConnection, Q_ARG(QString, text));
+    }
+    if (box) {
+        Q_EMIT box->textChanged(text);
+    }
+    if (box) {
+        Q_EMIT box->valueChanged(value);
+    }
+}
+
+/**
+ * Calls @p change with @p box, whose signals come when it has returned: QDoubleSpinBox goes on with
+ * its own work after it has emitted them, and a slot of the host may destroy the dialog.
+ */
+template <typename Change>
+void changeAndTell(const QPointer<QDoubleSpinBox> &box, Change change)
+{
+    if (!box) {
+        return;
+    }
+    const double before = box->value();
+    {
+        const QSignalBlocker blocker(box);
+        change(box.data());
+    }
+    // As the spin box itself compares: a value has its decimals.
+    if (box->value() < before || box->value() > before) {
+        tellOfValue(box);
+    }
 }
 
 } // namespace
@@ -111,16 +154,24 @@ void TalvoDoubleInputDlg::setParamData(QString label, double minimum, double max
     if (ui->label_2) {
         ui->label_2->setText(label);
     }
-    QDoubleSpinBox *input = ui->doubleSpinBox;
+    const QPointer<QDoubleSpinBox> input = ui->doubleSpinBox;
     if (!input) {
         return;
     }
     input->setAccessibleName(label);
-    input->setDecimals(decimals);
-    input->setSingleStep(singleStep);
-    input->setRange(minimum, maximum);
-    input->setValue(value);
-    if (!suffix.isEmpty()) {
+    changeAndTell(input, [decimals](QDoubleSpinBox *box) { box->setDecimals(decimals); });
+    if (input) {
+        input->setSingleStep(singleStep);
+    }
+    // A spin box that was given a bound that is no number accepts no value any more.
+    if (!qIsNaN(minimum) && !qIsNaN(maximum)) {
+        changeAndTell(input,
+                      [minimum, maximum](QDoubleSpinBox *box) { box->setRange(minimum, maximum); });
+    }
+    if (!qIsNaN(value)) {
+        changeAndTell(input, [value](QDoubleSpinBox *box) { box->setValue(value); });
+    }
+    if (input && !suffix.isEmpty()) {
         input->setSuffix(suffix);
     }
 }

@@ -39,7 +39,9 @@ public:
     /**
      * Sets the text of the label and, in this order, the spin box's decimals, step, range and
      * value, rounded to the decimals and clamped to the range as QDoubleSpinBox does. An empty @p
-     * suffix leaves the suffix that was set before; it is only read.
+     * suffix leaves the suffix that was set before; it is only read. A step below 0, and what is not
+     * a number, is ignored: a range of which one bound is none stays as it is. Whoever is connected
+     * to the spin box hears of each change of its value and may destroy the dialog.
      */
     void setParamData(QString label, double minimum, double maximum, int decimals, double value,
                       double singleStep, QString &suffix);

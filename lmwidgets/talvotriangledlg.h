@@ -33,7 +33,7 @@ class LMWIDGETS_EXPORT TalvoTriangleDlg : public QDialog
 
 public:
     /** The edge that carries the pointer. A value outside these paints nothing at all. */
-    enum TriangleDirection {
+    enum TriangleDirection : int {
         Left = 0,  ///< at the left edge, pointing left
         Right = 1, ///< at the right edge, pointing right
         Top = 2,   ///< at the top edge, pointing up; the default

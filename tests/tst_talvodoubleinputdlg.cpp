@@ -70,13 +70,18 @@ private Q_SLOTS:
     void texts();
     void styleSheet();
     void setParamData();
+    void signalsOfAStockSpinBox();
     void suffixStays();
     void oddNumbers();
+    void notANumber_data();
+    void notANumber();
     void keyboard();
     void escapeRejects();
     void mouse();
     void partsDeletedByTheHost();
     void deletedFromASlot();
+    void deletedFromValueChanged_data();
+    void deletedFromValueChanged();
     void parentDestroyed();
 };
 
@@ -212,6 +217,51 @@ void tst_TalvoDoubleInputDlg::setParamData()
     QCOMPARE(box->accessibleName(), QStringLiteral("Search radius"));
 }
 
+void tst_TalvoDoubleInputDlg::signalsOfAStockSpinBox()
+{
+    TalvoDoubleInputDlg dialog;
+    QDoubleSpinBox stock;
+    QStringList ours;
+    QStringList others;
+    const auto record = [](QDoubleSpinBox *box, QStringList *log) {
+        connect(box, &QDoubleSpinBox::textChanged, box,
+                [log](const QString &text) { log->append(QLatin1String("text ") + text); });
+        connect(box, QOverload<double>::of(&QDoubleSpinBox::valueChanged), box,
+                [log](double value) { log->append(QStringLiteral("value %1").arg(value)); });
+    };
+    record(input(&dialog), &ours);
+    record(&stock, &others);
+    QSignalSpy ourTexts(input(&dialog), SIGNAL(valueChanged(QString)));
+    QSignalSpy otherTexts(&stock, SIGNAL(valueChanged(QString)));
+
+    const struct
+    {
+        double minimum;
+        double maximum;
+        int decimals;
+        double value;
+        const char *suffix;
+    } steps[] = {{1.0, 9.0, 2, 7.25, ""},  {1.0, 4.0, 2, 3.5, " m"}, {1.0, 4.0, 0, 3.5, ""},
+                 {1.0, 4.0, 0, 3.5, ""},   {5.0, 1.0, 3, 2.0, ""},   {-9.0, 9.0, 1, 9.0, " ft"},
+                 {-9.0, 8.0, 0, 20.0, ""}, {-9.0, 8.0, 2, 0.0, ""}};
+    for (const auto &step : steps) {
+        const QString suffix = QLatin1String(step.suffix);
+        set(&dialog, step.minimum, step.maximum, step.decimals, step.value, suffix);
+        stock.setDecimals(step.decimals);
+        stock.setRange(step.minimum, step.maximum);
+        stock.setValue(step.value);
+        if (!suffix.isEmpty()) {
+            stock.setSuffix(suffix);
+        }
+        QCOMPARE(dialog.getValue(), stock.value());
+        QCOMPARE(input(&dialog)->text(), stock.text());
+    }
+    QVERIFY(others.count() > 8);
+    QCOMPARE(ours, others);
+    QCOMPARE(ourTexts.count(), others.count() / 2);
+    QCOMPARE(QList<QVariantList>(ourTexts), QList<QVariantList>(otherTexts));
+}
+
 void tst_TalvoDoubleInputDlg::suffixStays()
 {
     TalvoDoubleInputDlg dialog;
@@ -235,6 +285,45 @@ void tst_TalvoDoubleInputDlg::oddNumbers()
     set(&dialog, 0.0, 5.0, 2, -infinity);
     QCOMPARE(dialog.getValue(), 0.0);
     set(&dialog, -infinity, infinity, 400, 2.5);
+    QCOMPARE(dialog.getValue(), 2.5);
+}
+
+void tst_TalvoDoubleInputDlg::notANumber_data()
+{
+    QTest::addColumn<double>("minimum");
+    QTest::addColumn<double>("maximum");
+    QTest::addColumn<double>("value");
+    QTest::addColumn<double>("step");
+    QTest::addColumn<double>("expectedMinimum");
+    QTest::addColumn<double>("expectedMaximum");
+    QTest::addColumn<double>("expectedValue");
+    QTest::addColumn<double>("expectedStep");
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    // The dialog stands at 7 in a range from 1 to 9, with steps of 0.5.
+    QTest::newRow("value") << 1.0 << 9.0 << nan << 0.5 << 1.0 << 9.0 << 7.0 << 0.5;
+    QTest::newRow("value, other range") << 1.0 << 4.0 << nan << 0.5 << 1.0 << 4.0 << 4.0 << 0.5;
+    QTest::newRow("minimum") << nan << 4.0 << 3.0 << 0.5 << 1.0 << 9.0 << 3.0 << 0.5;
+    QTest::newRow("maximum") << 2.0 << nan << 3.0 << 0.5 << 1.0 << 9.0 << 3.0 << 0.5;
+    QTest::newRow("step") << 1.0 << 9.0 << 3.0 << nan << 1.0 << 9.0 << 3.0 << 0.5;
+    QTest::newRow("all") << nan << nan << nan << nan << 1.0 << 9.0 << 7.0 << 0.5;
+}
+
+void tst_TalvoDoubleInputDlg::notANumber()
+{
+    QFETCH(double, minimum);
+    QFETCH(double, maximum);
+    QFETCH(double, value);
+    QFETCH(double, step);
+    TalvoDoubleInputDlg dialog;
+    set(&dialog, 1.0, 9.0, 2, 7.0);
+    QString suffix;
+    dialog.setParamData(QStringLiteral("Distance"), minimum, maximum, 2, value, step, suffix);
+    QTEST(input(&dialog)->minimum(), "expectedMinimum");
+    QTEST(input(&dialog)->maximum(), "expectedMaximum");
+    QTEST(dialog.getValue(), "expectedValue");
+    QTEST(input(&dialog)->singleStep(), "expectedStep");
+    // It works on afterwards.
+    set(&dialog, 0.0, 5.0, 2, 2.5);
     QCOMPARE(dialog.getValue(), 2.5);
 }
 
@@ -297,6 +386,41 @@ void tst_TalvoDoubleInputDlg::deletedFromASlot()
     dialog->show();
     dialog->accept();
     QVERIFY(!dialog);
+}
+
+void tst_TalvoDoubleInputDlg::deletedFromValueChanged_data()
+{
+    QTest::addColumn<double>("minimum");
+    QTest::addColumn<double>("maximum");
+    QTest::addColumn<int>("decimals");
+    QTest::addColumn<double>("value");
+    // What changes the value 7.25 first.
+    QTest::newRow("decimals") << 1.0 << 9.0 << 1 << 7.25;
+    QTest::newRow("range") << 1.0 << 4.0 << 2 << 3.0;
+    QTest::newRow("value") << 1.0 << 9.0 << 2 << 3.0;
+}
+
+void tst_TalvoDoubleInputDlg::deletedFromValueChanged()
+{
+    QFETCH(double, minimum);
+    QFETCH(double, maximum);
+    QFETCH(int, decimals);
+    QFETCH(double, value);
+    {
+        const QPointer<TalvoDoubleInputDlg> dialog = new TalvoDoubleInputDlg;
+        set(dialog, 1.0, 9.0, 2, 7.25);
+        connect(input(dialog), QOverload<double>::of(&QDoubleSpinBox::valueChanged),
+                [dialog] { delete dialog.data(); });
+        set(dialog, minimum, maximum, decimals, value, QStringLiteral(" m"));
+        QVERIFY(!dialog);
+    }
+    TalvoDoubleInputDlg dialog;
+    set(&dialog, 1.0, 9.0, 2, 7.25);
+    QDoubleSpinBox *box = input(&dialog);
+    connect(box, QOverload<double>::of(&QDoubleSpinBox::valueChanged), [box] { delete box; });
+    set(&dialog, minimum, maximum, decimals, value, QStringLiteral(" m"));
+    QVERIFY(!input(&dialog));
+    QCOMPARE(dialog.getValue(), 0.0);
 }
 
 void tst_TalvoDoubleInputDlg::parentDestroyed()
