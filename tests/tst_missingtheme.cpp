@@ -3,12 +3,14 @@
 #include <lmwidgets/editcombobox.h>
 #include <lmwidgets/framelessdialog.h>
 #include <lmwidgets/framelessmessagebox.h>
+#include <lmwidgets/talvodoubleinputdlg.h>
 #include <lmwidgets/talvostylemanager.h>
 #include <lmwidgets/titlebar.h>
 
 #include <QAbstractItemView>
 #include <QCompleter>
 #include <QDir>
+#include <QFile>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTimer>
@@ -40,6 +42,7 @@ private Q_SLOTS:
     void messageBox();
     void editComboBox_data() { themes(); }
     void editComboBox();
+    void valueDialog();
 
 private:
     static void themes();
@@ -150,6 +153,28 @@ void tst_MissingTheme::editComboBox()
     TalvoStyleManager::instance()->shiftStyle(TalvoStyleManager::White);
     QVERIFY(list->isVisible());
     QVERIFY(!box.grab().isNull());
+}
+
+void tst_MissingTheme::valueDialog()
+{
+    TalvoDoubleInputDlg dialog;
+    QVERIFY(dialog.styleSheet().isEmpty());
+    QCOMPARE(dialog.getValue(), 0.0);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    QTest::mouseClick(dialog.GetOKButton(), Qt::LeftButton);
+    QCOMPARE(dialog.result(), int(QDialog::Accepted));
+
+    // The file is looked for at each construction, and read as UTF-8.
+    QVERIFY(QDir().mkpath(lmtest::themeDir()));
+    QFile sheet(lmtest::themeDir() + QStringLiteral("/themestyle.qss"));
+    const QString text = QStringLiteral("/* größer */ QLabel { color: red; }\n");
+    QVERIFY(sheet.open(QIODevice::WriteOnly));
+    QVERIFY(sheet.write(text.toUtf8()) > 0);
+    sheet.close();
+    const QString read = TalvoDoubleInputDlg().styleSheet();
+    QVERIFY(QDir(lmtest::themeDir()).removeRecursively());
+    QCOMPARE(read, text);
 }
 
 LMTEST_MAIN(tst_MissingTheme)
