@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QColor>
+#include <QFont>
 #include <QFontMetricsF>
 #include <QMouseEvent>
 #include <QPainter>
@@ -126,8 +127,12 @@ void ToggleSwitch::paintEvent(QPaintEvent *event)
     painter.drawEllipse(
         QRectF(track.left() + KnobInset + offset, track.top() + KnobInset, KnobSize, KnobSize));
 
+    // A painter takes from its widget's font what a font does not set itself, and the application's
+    // sets nothing: the text would be drawn in another font than the one that it was measured in.
+    QFont font = QApplication::font();
+    font.resolve(~0U);
     painter.setPen(Qt::white);
-    painter.setFont(QApplication::font());
+    painter.setFont(font);
     painter.drawText(
         QRectF(track.width() + TextGap, 0.0, width() - track.width() - TextRightGap, height()),
         static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter), m_text);

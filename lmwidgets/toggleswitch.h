@@ -49,7 +49,10 @@ Q_SIGNALS:
 public Q_SLOTS:
     /** Turns the switch on or off. The state that it has already is ignored. */
     void setChecked(bool checked);
-    /** Sets the text and makes the switch as wide as it needs; the height stays. */
+    /**
+     * Sets the text and makes the switch as wide as it needs; the height stays. Measured and drawn
+     * in the application's font, whatever font the switch itself has.
+     */
     void setText(const QString &text);
 
 protected:

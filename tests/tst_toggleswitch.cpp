@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <QPointer>
 #include <QSignalSpy>
+#include <QTimer>
 #include <QVBoxLayout>
 
 using LM::Widgets::ToggleSwitch;
@@ -70,6 +71,26 @@ void press(ToggleSwitch *toggle, const QPoint &pos, Qt::MouseButton button = Qt:
     QTest::mouseRelease(toggle, button, Qt::NoModifier, pos);
 }
 
+/** Counts the ticks of the switches' timers. Lives before the switch whose timer it looks at. */
+class TickCounter : public QObject
+{
+public:
+    int ticks = 0;
+    QPointer<QTimer> timer;
+
+    TickCounter() { qApp->installEventFilter(this); }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        auto *ticking = qobject_cast<QTimer *>(watched);
+        if (ticking && event->type() == QEvent::Timer) {
+            timer = ticking;
+            ++ticks;
+        }
+        return false;
+    }
+};
+
 } // namespace
 
 class tst_ToggleSwitch : public lmtest::TestCase
@@ -85,13 +106,16 @@ private Q_SLOTS:
     void presses();
     void otherButtons();
     void disabledIgnoresPresses();
+    void pressesStayHere();
     void toggledComesAtOnceAndTheKnobLags();
     void ticks();
     void turnsRoundWhereItIs();
     void theTimerRunsByItself();
+    void repaints();
     void pixels_data();
     void pixels();
     void theTextIsPainted();
+    void theApplicationsFontCounts();
     void destroyedWhileItAnimates();
     void deletedFromToggled();
     void accessible();
@@ -208,6 +232,26 @@ void tst_ToggleSwitch::disabledIgnoresPresses()
     QVERIFY(toggle->isChecked());
 }
 
+void tst_ToggleSwitch::pressesStayHere()
+{
+    class Parent : public QWidget
+    {
+    public:
+        int presses = 0;
+
+    protected:
+        void mousePressEvent(QMouseEvent *) override { ++presses; }
+    } parent;
+    parent.resize(300, 100);
+    auto *toggle = new ToggleSwitch(&parent);
+    parent.show();
+    press(toggle, QPoint(20, 15), Qt::RightButton);
+    press(toggle, QPoint(70, 15));
+    press(toggle, QPoint(20, 15));
+    QCOMPARE(parent.presses, 0);
+    QVERIFY(toggle->isChecked());
+}
+
 void tst_ToggleSwitch::toggledComesAtOnceAndTheKnobLags()
 {
     ToggleSwitch toggle;
@@ -261,10 +305,58 @@ void tst_ToggleSwitch::turnsRoundWhereItIs()
 
 void tst_ToggleSwitch::theTimerRunsByItself()
 {
+    TickCounter counter;
     ToggleSwitch toggle;
     toggle.show();
+    toggle.setChecked(false);
+    QVERIFY(QTest::qWaitForWindowExposed(&toggle));
+    QCOMPARE(counter.ticks, 0);
     toggle.setChecked(true);
     QTRY_COMPARE(knobOnYellow(&toggle), qMakePair(25, 40));
+    // It stops at the tick that snaps.
+    QCOMPARE(counter.ticks, 15);
+    QVERIFY(counter.timer);
+    QVERIFY(!counter.timer->isActive());
+    QCOMPARE(counter.timer->interval(), 16);
+    QVERIFY(!counter.timer->isSingleShot());
+    QVERIFY(!counter.timer->parent());
+}
+
+void tst_ToggleSwitch::repaints()
+{
+    class Switch : public ToggleSwitch
+    {
+    public:
+        int paints = 0;
+
+    protected:
+        void paintEvent(QPaintEvent *event) override
+        {
+            ++paints;
+            ToggleSwitch::paintEvent(event);
+        }
+    } toggle;
+    toggle.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&toggle));
+    QTRY_VERIFY(toggle.paints > 0);
+    QCoreApplication::processEvents();
+    int before = toggle.paints;
+    tick(&toggle);
+    QTRY_COMPARE(toggle.paints, before + 1);
+    // A text of the same width, even the same text.
+    before = toggle.paints;
+    toggle.setText(QStringLiteral("ToggleSwitch"));
+    QTRY_COMPARE(toggle.paints, before + 1);
+    // The knob's way to the right, and the tick that snaps.
+    before = toggle.paints;
+    toggle.setChecked(true);
+    QTRY_VERIFY(toggle.paints > before);
+    finish(&toggle);
+    QCoreApplication::processEvents();
+    before = toggle.paints;
+    toggle.setChecked(false);
+    tick(&toggle);
+    QTRY_VERIFY(toggle.paints > before);
 }
 
 void tst_ToggleSwitch::pixels_data()
@@ -354,6 +446,21 @@ void tst_ToggleSwitch::theTextIsPainted()
     QVERIFY(white);
 }
 
+void tst_ToggleSwitch::theApplicationsFontCounts()
+{
+    ToggleSwitch toggle;
+    toggle.setText(QStringLiteral("Ground"));
+    toggle.show();
+    const QImage before = painted(&toggle);
+    QFont large = toggle.font();
+    large.setPointSize(2 * QFontInfo(large).pointSize());
+    large.setItalic(true);
+    toggle.setFont(large);
+    QCOMPARE(painted(&toggle), before);
+    toggle.setText(QStringLiteral("Ground"));
+    QCOMPARE(painted(&toggle), before);
+}
+
 void tst_ToggleSwitch::destroyedWhileItAnimates()
 {
     const QPointer<ToggleSwitch> toggle = new ToggleSwitch;
@@ -418,6 +525,12 @@ void tst_ToggleSwitch::accessibleToggle()
     QVERIFY(!action->actionNames().contains(name));
     action->doAction(name);
     QCOMPARE(toggled.count(), 2);
+
+    // Whoever is asked for the action may be gone when it is done.
+    const QPointer<ToggleSwitch> doomed = new ToggleSwitch;
+    connect(doomed.data(), &ToggleSwitch::toggled, [doomed] { delete doomed.data(); });
+    QAccessible::queryAccessibleInterface(doomed)->actionInterface()->doAction(name);
+    QVERIFY(!doomed);
 }
 
 LMTEST_MAIN(tst_ToggleSwitch)
