@@ -70,13 +70,21 @@ public:
 
 namespace {
 
-QAccessibleInterface *createAccessibleCheck(const QString &, QObject *object)
+/**
+ * Qt asks for the class of @p object and then for each of its bases. Only the switches' own names
+ * are answered, so that a host's factory for a class derived from one of them gets its turn.
+ */
+QAccessibleInterface *createAccessibleCheck(const QString &className, QObject *object)
 {
-    if (auto *toggle = qobject_cast<ToggleSwitch *>(object)) {
-        return new AccessibleToggleSwitch(toggle);
+    if (className == QLatin1String(ToggleSwitch::staticMetaObject.className())) {
+        if (auto *toggle = qobject_cast<ToggleSwitch *>(object)) {
+            return new AccessibleToggleSwitch(toggle);
+        }
     }
-    if (auto *box = qobject_cast<RoundCheckBox *>(object)) {
-        return new AccessibleCheck<RoundCheckBox>(box);
+    if (className == QLatin1String(RoundCheckBox::staticMetaObject.className())) {
+        if (auto *box = qobject_cast<RoundCheckBox *>(object)) {
+            return new AccessibleCheck<RoundCheckBox>(box);
+        }
     }
     return nullptr;
 }

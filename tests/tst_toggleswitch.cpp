@@ -3,6 +3,7 @@
 #include <lmwidgets/toggleswitch.h>
 
 #include <QAccessible>
+#include <QAccessibleWidget>
 #include <QFontMetricsF>
 #include <QImage>
 #include <QPainter>
@@ -91,6 +92,26 @@ public:
     }
 };
 
+/** A switch of a host, for which the host has an accessible interface of its own. */
+class HostSwitch : public ToggleSwitch
+{
+    Q_OBJECT
+};
+
+/** One that the host leaves as it is. */
+class PlainSwitch : public ToggleSwitch
+{
+    Q_OBJECT
+};
+
+QAccessibleInterface *createHostSwitch(const QString &className, QObject *object)
+{
+    if (className == QLatin1String(HostSwitch::staticMetaObject.className())) {
+        return new QAccessibleWidget(static_cast<QWidget *>(object), QAccessible::RadioButton);
+    }
+    return nullptr;
+}
+
 } // namespace
 
 class tst_ToggleSwitch : public lmtest::TestCase
@@ -98,6 +119,7 @@ class tst_ToggleSwitch : public lmtest::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
     void metaObject();
     void fresh();
     void setText();
@@ -120,7 +142,15 @@ private Q_SLOTS:
     void deletedFromToggled();
     void accessible();
     void accessibleToggle();
+    void accessibleByTheHost();
 };
+
+void tst_ToggleSwitch::initTestCase()
+{
+    TestCase::initTestCase();
+    // Before there is a switch, as a host would at its start.
+    QAccessible::installFactory(createHostSwitch);
+}
 
 void tst_ToggleSwitch::metaObject()
 {
@@ -531,6 +561,14 @@ void tst_ToggleSwitch::accessibleToggle()
     connect(doomed.data(), &ToggleSwitch::toggled, [doomed] { delete doomed.data(); });
     QAccessible::queryAccessibleInterface(doomed)->actionInterface()->doAction(name);
     QVERIFY(!doomed);
+}
+
+void tst_ToggleSwitch::accessibleByTheHost()
+{
+    HostSwitch theirs;
+    QCOMPARE(QAccessible::queryAccessibleInterface(&theirs)->role(), QAccessible::RadioButton);
+    PlainSwitch plain;
+    QCOMPARE(QAccessible::queryAccessibleInterface(&plain)->role(), QAccessible::CheckBox);
 }
 
 LMTEST_MAIN(tst_ToggleSwitch)
