@@ -35,16 +35,16 @@ public:
     /** Returns whether the box is checked; false at start. */
     bool isChecked() const;
 
+public Q_SLOTS:
+    /** Sets the state, emits toggled() and repaints, each time. */
+    void setChecked(bool check);
+
 Q_SIGNALS:
     /**
      * The box was turned over by the mouse, or setChecked() was called: then also with the state
      * that the box had already.
      */
     void toggled(bool check);
-
-public Q_SLOTS:
-    /** Sets the state, emits toggled() and repaints, each time. */
-    void setChecked(bool check);
 
 protected:
     /** Turns the box over on the release of any button inside it. */

@@ -42,10 +42,6 @@ public:
     /** Returns whether the switch is on; false at start. */
     bool isChecked() const;
 
-Q_SIGNALS:
-    /** The switch was turned over, by the mouse or by setChecked(): not for the same state again. */
-    void toggled(bool checked);
-
 public Q_SLOTS:
     /** Turns the switch on or off. The state that it has already is ignored. */
     void setChecked(bool checked);
@@ -54,6 +50,10 @@ public Q_SLOTS:
      * in the application's font, whatever font the switch itself has.
      */
     void setText(const QString &text);
+
+Q_SIGNALS:
+    /** The switch was turned over, by the mouse or by setChecked(): not for the same state again. */
+    void toggled(bool checked);
 
 protected:
     /** Turns the switch over on a press of the left button within its 42 by 24 px from (0, 3). */
