@@ -9,6 +9,7 @@
 #include <QPointer>
 
 #include <climits>
+#include <type_traits>
 
 namespace {
 
@@ -72,6 +73,7 @@ private Q_SLOTS:
     void settersDoNotRepaint();
     void oddNumbers_data();
     void oddNumbers();
+    void extremeNumbers();
     void childrenStandOnIt();
     void parentDestroyed();
 };
@@ -197,6 +199,9 @@ void tst_TalvoTriangleDlg::anotherDirectionPaintsNothing()
     dialog.resize(200, 100);
     QImage clear(200, 100, QImage::Format_ARGB32_Premultiplied);
     clear.fill(Qt::transparent);
+    // Without a stated type, the enumeration could hold nothing but 0 to 3.
+    const bool holdsAnyInt = std::is_same<std::underlying_type_t<Direction>, int>::value;
+    QVERIFY(holdsAnyInt);
     for (const int direction : {4, -1, INT_MAX}) {
         dialog.setTriabgleData(Direction(direction), 20, 10, 16);
         QCOMPARE(painted(&dialog), clear);
@@ -234,35 +239,72 @@ void tst_TalvoTriangleDlg::settersDoNotRepaint()
 
 void tst_TalvoTriangleDlg::oddNumbers_data()
 {
+    QTest::addColumn<int>("direction");
     QTest::addColumn<int>("start");
     QTest::addColumn<int>("height");
     QTest::addColumn<int>("width");
-    QTest::newRow("all negative") << -20 << -10 << -16;
-    QTest::newRow("past the edge") << 190 << 10 << 40;
-    QTest::newRow("higher than the dialog") << 20 << 400 << 16;
-    QTest::newRow("largest") << INT_MAX << INT_MAX << INT_MAX;
-    QTest::newRow("smallest") << INT_MIN << INT_MIN << INT_MIN;
-    QTest::newRow("odd width") << 20 << 10 << 17;
+    QTest::addColumn<QRectF>("body");
+    QTest::addColumn<QPolygonF>("triangle");
+    QTest::addColumn<QVector<QLineF>>("lines");
+
+    // The tip of an odd width lies at the smaller half, that of a negative one at the greater.
+    QTest::newRow("odd width") << 0 << 20 << 10 << 17 << QRectF(10, 0, 198, 100)
+                               << QPolygonF({{10, 20}, {0, 28}, {10, 37}})
+                               << QVector<QLineF>(
+                                      {{10, 0, 10, 20}, {0, 28, 10, 37}, {10, 100, 200, 100}});
+    QTest::newRow("negative width")
+        << 2 << 60 << 10 << -17 << QRectF(1, 10, 198, 98)
+        << QPolygonF({{60, 10}, {52, 0}, {43, 10}})
+        << QVector<QLineF>(
+               {{0, 10, 60, 10}, {52, 0, 43, 10}, {200, 10, 200, 100}, {0, 100, 0, 10}});
+    QTest::newRow("all negative") << 1 << -20 << -10 << -16 << QRectF(0, 0, 210, 100)
+                                  << QPolygonF({{210, -20}, {200, -28}, {210, -36}})
+                                  << QVector<QLineF>({{0, 0, 210, 0},
+                                                      {210, -20, 200, -28},
+                                                      {210, -36, 210, 100}});
+    QTest::newRow("past the edge")
+        << 3 << 190 << 10 << 40 << QRectF(1, 0, 198, 90)
+        << QPolygonF({{190, 90}, {210, 100}, {230, 90}})
+        << QVector<QLineF>({{0, 0, 0, 90}, {190, 90, 210, 100}, {230, 90, 200, 90}});
+    QTest::newRow("higher than the dialog")
+        << 3 << 20 << 400 << 16 << QRectF(1, 0, 198, -300)
+        << QPolygonF({{20, -300}, {28, 100}, {36, -300}})
+        << QVector<QLineF>({{0, 0, 0, -300}, {20, -300, 28, 100}, {36, -300, 200, -300}});
 }
 
 void tst_TalvoTriangleDlg::oddNumbers()
 {
+    QFETCH(int, direction);
     QFETCH(int, start);
     QFETCH(int, height);
     QFETCH(int, width);
+    QFETCH(QRectF, body);
+    QFETCH(QPolygonF, triangle);
+    QFETCH(QVector<QLineF>, lines);
     TalvoTriangleDlg dialog;
     dialog.resize(200, 100);
-    for (int direction = 0; direction < 4; ++direction) {
-        dialog.setTriabgleData(Direction(direction), start, height, width);
-        QCOMPARE(painted(&dialog).size(), QSize(200, 100));
+    dialog.setTriabgleData(Direction(direction), start, height, width);
+    QCOMPARE(painted(&dialog), expected(QSize(200, 100), 1.0, body, triangle, lines));
+}
+
+void tst_TalvoTriangleDlg::extremeNumbers()
+{
+    TalvoTriangleDlg dialog;
+    dialog.resize(200, 100);
+    for (const int direction : {0, 2}) {
+        // The panel is pushed out of the dialog.
+        dialog.setTriabgleData(Direction(direction), INT_MAX, INT_MAX, INT_MAX);
+        const QImage image = painted(&dialog);
+        QCOMPARE(at(image, 100, 50).alpha(), 0);
+        QCOMPARE(at(image, 190, 90).alpha(), 0);
     }
-    // The tip of an odd width lies at the smaller half.
-    if (width == 17) {
-        dialog.setTriabgleData(TalvoTriangleDlg::Left, 20, 10, 17);
-        QCOMPARE(painted(&dialog),
-                 expected(QSize(200, 100), 1.0, QRectF(10, 0, 198, 100),
-                          QPolygonF({{10, 20}, {0, 28}, {10, 37}}),
-                          {{10, 0, 10, 20}, {0, 28, 10, 37}, {10, 100, 200, 100}}));
+    for (int direction = 0; direction < 4; ++direction) {
+        for (const int number : {INT_MIN, INT_MAX}) {
+            dialog.setTriabgleData(Direction(direction), number, number, number);
+            painted(&dialog);
+        }
+        dialog.setTriabgleData(Direction(direction), 20, 10, 16);
+        QCOMPARE(at(painted(&dialog), 100, 50), Fill);
     }
 }
 
