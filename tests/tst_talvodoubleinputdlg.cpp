@@ -155,6 +155,7 @@ void tst_TalvoDoubleInputDlg::form_()
     TalvoDoubleInputDlg dialog;
     QWidget *holder = form(&dialog);
     QVERIFY(holder);
+    QCOMPARE(holder->size(), QSize(528, 64));
     QCOMPARE(holder->minimumSize(), QSize(528, 0));
     QCOMPARE(holder->maximumSize(), QSize(9999, 9999));
     const QLayout *outer = holder->layout();
