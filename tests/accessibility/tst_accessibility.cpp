@@ -7,6 +7,16 @@
 
 #include <memory>
 
+namespace {
+
+// As the accessibility bus counts them.
+constexpr int CheckedState = 4;
+constexpr int EditableState = 7;
+constexpr int ExpandedState = 10;
+constexpr int SelectedState = 23;
+
+} // namespace
+
 class tst_Accessibility : public DesktopTest
 {
     Q_OBJECT
@@ -21,6 +31,12 @@ private Q_SLOTS:
     void sliderIsOperated_data();
     void sliderIsOperated();
     void sliderReportsChanges();
+    void switches_data();
+    void switches();
+    void comboIsFound();
+    void comboOpensAndCloses();
+    void tabsAreFound();
+    void tabIsPressed();
 
 private:
     static QString value() { return QStringLiteral("Value"); }
@@ -139,6 +155,97 @@ void tst_Accessibility::sliderReportsChanges()
     QVERIFY(upper.setProperty(value(), current(), 90.0));
     QVERIFY(QTest::qWaitFor([&] { return m_assistant.takeValueChanges().contains(upper.path()); },
                             TimeoutMs));
+}
+
+void tst_Accessibility::switches_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("heard");
+    QTest::newRow("ToggleSwitch") << "Ground points"
+                                  << "toggle %1";
+    QTest::newRow("RoundCheckBox") << "Lock"
+                                   << "round %1";
+}
+
+void tst_Accessibility::switches()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, heard);
+    const AccessibleNode box = m_application.find(QStringLiteral("check box"), name);
+    QVERIFY(box.isValid());
+    QVERIFY(!box.hasState(CheckedState));
+    QVERIFY(box.doAction(QStringLiteral("Toggle")));
+    STEP(expect(*m_host, heard.arg(QStringLiteral("on"))));
+    QVERIFY(box.hasState(CheckedState));
+    QVERIFY(box.doAction(QStringLiteral("Toggle")));
+    STEP(expect(*m_host, heard.arg(QStringLiteral("off"))));
+    QVERIFY(!box.hasState(CheckedState));
+}
+
+void tst_Accessibility::comboIsFound()
+{
+    const AccessibleNode combo =
+        m_application.find(QStringLiteral("combo box"), QStringLiteral("System"));
+    QVERIFY(combo.isValid());
+    QVERIFY(combo.hasState(EditableState));
+    QVERIFY(!combo.hasState(ExpandedState));
+    // The text is that of the field inside.
+    AccessibleNode field;
+    for (const AccessibleNode &child : combo.children()) {
+        if (child.role() == QStringLiteral("text")) {
+            field = child;
+        }
+    }
+    QVERIFY(field.isValid());
+    const QDBusMessage text =
+        field.call(QStringLiteral("Text"), QStringLiteral("GetText"), {0, -1});
+    QCOMPARE(text.arguments().value(0).toString(), QStringLiteral("NAD83"));
+    const QDBusMessage written =
+        field.call(QStringLiteral("EditableText"), QStringLiteral("SetTextContents"),
+                   {QStringLiteral("WGS 84")});
+    QCOMPARE(written.arguments().value(0).toBool(), true);
+    STEP(expect(*m_host, QStringLiteral("system 0")));
+}
+
+void tst_Accessibility::comboOpensAndCloses()
+{
+    const AccessibleNode combo =
+        m_application.find(QStringLiteral("combo box"), QStringLiteral("System"));
+    QVERIFY(combo.isValid());
+    QVERIFY(combo.doAction(QStringLiteral("ShowMenu")));
+    QVERIFY(QTest::qWaitFor([&] { return combo.hasState(ExpandedState); }, TimeoutMs));
+    QVERIFY(combo.doAction(QStringLiteral("ShowMenu")));
+    QVERIFY(QTest::qWaitFor([&] { return !combo.hasState(ExpandedState); }, TimeoutMs));
+}
+
+void tst_Accessibility::tabsAreFound()
+{
+    const AccessibleNode bar =
+        m_application.find(QStringLiteral("page tab list"), QStringLiteral("Steps"));
+    QVERIFY(bar.isValid());
+    const AccessibleNode first = bar.find(QStringLiteral("page tab"), QStringLiteral("Import"));
+    const AccessibleNode second = bar.find(QStringLiteral("page tab"), QStringLiteral("Classify"));
+    QVERIFY(first.isValid() && second.isValid());
+    QVERIFY(first.hasState(SelectedState));
+    QVERIFY(!second.hasState(SelectedState));
+    // What the dots mean.
+    const QString description = QStringLiteral("Description");
+    QCOMPARE(first.property(QStringLiteral("Accessible"), description),
+             QVariant(QStringLiteral("done")));
+    QCOMPARE(second.property(QStringLiteral("Accessible"), description),
+             QVariant(QStringLiteral("failed")));
+}
+
+void tst_Accessibility::tabIsPressed()
+{
+    const AccessibleNode bar =
+        m_application.find(QStringLiteral("page tab list"), QStringLiteral("Steps"));
+    QVERIFY(bar.isValid());
+    const AccessibleNode second = bar.find(QStringLiteral("page tab"), QStringLiteral("Classify"));
+    QVERIFY(second.isValid());
+    QVERIFY(second.doAction(QStringLiteral("Press")));
+    STEP(expect(*m_host, QStringLiteral("tab 1")));
+    QVERIFY(second.hasState(SelectedState));
 }
 
 QTEST_GUILESS_MAIN(tst_Accessibility)
