@@ -60,7 +60,8 @@ EditComboBox *AccessibleEditComboBox::box() const
 
 bool AccessibleEditComboBox::isOpen() const
 {
-    return box()->d->completer->popup()->isVisible();
+    const QAbstractItemView *popup = box()->d->completer->popup();
+    return popup && popup->isVisible();
 }
 
 QString AccessibleEditComboBox::text(QAccessible::Text text) const

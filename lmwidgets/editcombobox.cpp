@@ -179,16 +179,17 @@ void EditComboBoxPrivate::giveToCompleter(QStringListModel *model)
         return;
     }
     const bool isOurs = target == completer;
-    if (isOurs && target->model() == model && m_delegate &&
-        target->popup()->itemDelegate() == m_delegate) {
+    QAbstractItemView *popup = target->popup();
+    if (isOurs && target->model() == model && popup && m_delegate &&
+        popup->itemDelegate() == m_delegate) {
         // Up to Qt 5.15 setting the same model again does no more than this, but leaves one more
         // delegate in the popup each time: half a kilobyte and several microseconds per entry.
-        target->popup()->hide();
+        popup->hide();
         return;
     }
     target->setModel(model);
-    if (isOurs) {
-        m_delegate = target->popup()->itemDelegate();
+    if (isOurs && popup) {
+        m_delegate = popup->itemDelegate();
     }
 }
 
@@ -299,7 +300,7 @@ void EditComboBoxPrivate::showMatches()
 bool EditComboBoxPrivate::restart(const QString &prefix)
 {
     QAbstractItemView *popup = completer->popup();
-    if (completer->completionPrefix() != prefix || popup->isVisible()) {
+    if (!popup || completer->completionPrefix() != prefix || popup->isVisible()) {
         return false;
     }
     completer->setCurrentRow(0);
@@ -309,9 +310,14 @@ bool EditComboBoxPrivate::restart(const QString &prefix)
 
 void EditComboBoxPrivate::open(QCompleter *list)
 {
+    if (!list->widget()) {
+        // The host took the completer away from the line edit, which leaves it without a place.
+        list->setWidget(q);
+    }
     list->complete(q->rect());
+    // A completer that the host made complete inline has no popup.
     QAbstractItemView *popup = list->popup();
-    if (!popup->isVisible()) {
+    if (popup && !popup->isVisible()) {
         // There is nothing to show, and the completer leaves the popup where it was last.
         popup->setGeometry(QRect(q->mapToGlobal(QPoint(0, q->height())), q->size()));
         popup->show();
@@ -323,7 +329,9 @@ void EditComboBoxPrivate::dismantle()
     lineEdit->removeEventFilter(q);
     disconnect(lineEdit, nullptr, this, nullptr);
     disconnect(completer, nullptr, this, nullptr);
-    completer->popup()->hide();
+    if (QAbstractItemView *popup = completer->popup()) {
+        popup->hide();
+    }
     if (lineEdit->completer() == completer) {
         lineEdit->setCompleter(nullptr);
     }

@@ -22,6 +22,8 @@ private Q_SLOTS:
     void pressWithEveryButton();
     void pressInADisabledBox();
     void pressWithoutCompleter();
+    void buttonWithoutCompleter();
+    void inlineCompletion();
     void buttonShowsAll();
     void disabledButton();
     void nothingToShow();
@@ -129,6 +131,36 @@ void tst_EditComboBoxList::pressWithoutCompleter()
                       QPoint(lineEdit(box)->width() - 4, 10));
     QVERIFY(!list->isVisible());
     QCOMPARE(lineEdit(box)->cursorPosition(), 0);
+}
+
+// The button goes on showing the list of the box after the host took the completer away.
+void tst_EditComboBoxList::buttonWithoutCompleter()
+{
+    EditComboBox box({"a", "b"}, nullptr);
+    show(box);
+    QAbstractItemView *list = popup(box);
+    lineEdit(box)->setCompleter(nullptr);
+    QTest::mouseClick(button(box), Qt::LeftButton);
+    QVERIFY(list->isVisible());
+    QCOMPARE(list->width(), box.width());
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier,
+                      list->visualRect(list->model()->index(1, 0)).center());
+    QCOMPARE(lineEdit(box)->text(), QStringLiteral("b"));
+    QCOMPARE(box.currentIndex(), 1);
+}
+
+void tst_EditComboBoxList::inlineCompletion()
+{
+    EditComboBox box({"alpha", "beta"}, nullptr);
+    show(box);
+    completer(box)->setCompletionMode(QCompleter::InlineCompletion);
+    box.addItem(QStringLiteral("gamma"));
+    QTest::mouseClick(button(box), Qt::LeftButton);
+    lineEdit(box)->clear();
+    QTest::mouseClick(lineEdit(box), Qt::LeftButton);
+    box.addItem(QStringLiteral("delta"));
+    QCOMPARE(modelEntries(box), QStringList({"alpha", "beta", "gamma", "delta"}));
+    QVERIFY(!QApplication::activePopupWidget());
 }
 
 void tst_EditComboBoxList::buttonShowsAll()
