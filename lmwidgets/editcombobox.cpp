@@ -14,6 +14,7 @@
 #include <QItemSelectionModel>
 #include <QLineEdit>
 #include <QListView>
+#include <QMetaMethod>
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QStringListModel>
@@ -57,6 +58,18 @@ bool breaksLines(const QString &text)
         return c == QLatin1Char('\n') || c == QChar::LineSeparator ||
                c == QChar::ParagraphSeparator || c == QLatin1Char('\r');
     });
+}
+
+/** Whether anyone is told before @p model is reset, and may look at what it still holds. */
+bool isResetWatched(const QAbstractItemModel *model)
+{
+    struct Access : QObject
+    {
+        using QObject::isSignalConnected;
+    };
+    static const QMetaMethod signal =
+        QMetaMethod::fromSignal(&QAbstractItemModel::modelAboutToBeReset);
+    return (model->*&Access::isSignalConnected)(signal);
 }
 
 } // namespace
@@ -156,9 +169,11 @@ void EditComboBoxPrivate::append(const QStringList &texts)
     auto *model = qobject_cast<QStringListModel *>(completer->model());
     std::unique_ptr<QStringListModel> former;
     if (model) {
-        // While the model shares the list, each entry would cost a copy of all of them.
-        const QSignalBlocker blocker(model);
-        model->setStringList(QStringList());
+        if (!isResetWatched(model)) {
+            // While the model shares the list, each entry would cost a copy of all of them.
+            const QSignalBlocker blocker(model);
+            model->setStringList(QStringList());
+        }
     } else {
         // The host gave the completer a model of another kind; it goes back to the host.
         former = std::move(m_substitute);

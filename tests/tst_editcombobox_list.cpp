@@ -39,6 +39,7 @@ private Q_SLOTS:
     void addingClosesTheList();
     void addingKeepsOneDelegate();
     void modelIsReset();
+    void modelBeforeItsReset();
     void otherEventsReachTheLineEdit();
     void rowHeights();
     void openedAgainAsIfAnew();
@@ -372,6 +373,23 @@ void tst_EditComboBoxList::modelIsReset()
     box.clear();
     QCOMPARE(resets.count(), 3);
     QCOMPARE(inserted.count(), 0);
+}
+
+// Whoever looks at the model when it announces its reset sees the entries that it had.
+void tst_EditComboBoxList::modelBeforeItsReset()
+{
+    EditComboBox box({"a"}, nullptr);
+    QVector<QStringList> before;
+    QVector<int> counts;
+    connect(completer(box)->model(), &QAbstractItemModel::modelAboutToBeReset, &box, [&] {
+        before += modelEntries(box);
+        counts += box.count();
+    });
+    box.addItem(QStringLiteral("b"));
+    box.addItems({"c", "d"});
+    box.clear();
+    QCOMPARE(before, QVector<QStringList>({{"a"}, {"a", "b"}, {"a", "b", "c", "d"}}));
+    QCOMPARE(counts, QVector<int>({2, 4, 0}));
 }
 
 void tst_EditComboBoxList::otherEventsReachTheLineEdit()
