@@ -55,24 +55,28 @@ void AccessibleEditComboBox::nameLineEdit(EditComboBox *box)
 
 EditComboBox *AccessibleEditComboBox::box() const
 {
-    return static_cast<EditComboBox *>(widget());
+    return qobject_cast<EditComboBox *>(widget());
 }
 
 bool AccessibleEditComboBox::isOpen() const
 {
-    return box()->d->completer->popup()->isVisible();
+    const QAbstractItemView *popup = box() ? box()->d->completer->popup() : nullptr;
+    return popup && popup->isVisible();
 }
 
 QString AccessibleEditComboBox::text(QAccessible::Text text) const
 {
-    return text == QAccessible::Value ? box()->d->lineEdit->text() : QAccessibleWidget::text(text);
+    if (text == QAccessible::Value && box()) {
+        return box()->d->lineEdit->text();
+    }
+    return QAccessibleWidget::text(text);
 }
 
 void AccessibleEditComboBox::setText(QAccessible::Text text, const QString &value)
 {
     if (text != QAccessible::Value) {
         QAccessibleWidget::setText(text, value);
-    } else if (box()->isEnabled() && !box()->d->lineEdit->isReadOnly()) {
+    } else if (box() && box()->isEnabled() && !box()->d->lineEdit->isReadOnly()) {
         box()->d->lineEdit->setText(value);
     }
 }
@@ -80,6 +84,9 @@ void AccessibleEditComboBox::setText(QAccessible::Text text, const QString &valu
 QAccessible::State AccessibleEditComboBox::state() const
 {
     QAccessible::State state = QAccessibleWidget::state();
+    if (!box()) {
+        return state;
+    }
     const QLineEdit *lineEdit = box()->d->lineEdit;
     state.hasPopup = true;
     state.expandable = true;
@@ -95,7 +102,7 @@ QAccessible::State AccessibleEditComboBox::state() const
 QStringList AccessibleEditComboBox::actionNames() const
 {
     QStringList names = QAccessibleWidget::actionNames();
-    if (box()->isEnabled()) {
+    if (box() && box()->isEnabled()) {
         names.prepend(pressAction());
         names.prepend(showMenuAction());
     }
@@ -115,7 +122,7 @@ void AccessibleEditComboBox::doAction(const QString &name)
 {
     if (name != showMenuAction() && name != pressAction()) {
         QAccessibleWidget::doAction(name);
-    } else if (box()->isEnabled()) {
+    } else if (box() && box()->isEnabled()) {
         if (isOpen()) {
             box()->d->completer->popup()->hide();
         } else {

@@ -37,6 +37,7 @@ public:
     void doAction(const QString &name) override;
 
 private:
+    // Null once the box is being destroyed and is no more than a QWidget.
     EditComboBox *box() const;
     bool isOpen() const;
 };

@@ -9,17 +9,20 @@
 #include <QAccessible>
 #include <QCompleter>
 #include <QEvent>
+#include <QFontMetricsF>
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QItemSelectionModel>
 #include <QLineEdit>
 #include <QListView>
+#include <QMetaMethod>
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QStringListModel>
 #include <QTimer>
 
 #include <algorithm>
+#include <array>
 
 namespace LM {
 namespace Widgets {
@@ -50,13 +53,50 @@ constexpr int errorMs = 2000;
 constexpr int maxVisibleItems = 10;
 constexpr QSize buttonSize(20, 20);
 
-/** Whether a view shows @p text in more than one line. */
-bool breaksLines(const QString &text)
+// From so many entries on it takes long to measure the rows of the list one by one.
+constexpr int longList = 1000;
+// More than what a row, the frame and the scroll bar take beside the text, in px.
+constexpr int besideText = 40;
+constexpr ushort firstPlain = 0x20;
+constexpr ushort lastPlain = 0x7e;
+
+/** The widths of the letters that every font has, which all give a row the same height. */
+class PlainWidths
 {
-    return std::any_of(text.begin(), text.end(), [](QChar c) {
-        return c == QLatin1Char('\n') || c == QChar::LineSeparator ||
-               c == QChar::ParagraphSeparator || c == QLatin1Char('\r');
-    });
+public:
+    explicit PlainWidths(const QFont &font)
+    {
+        const QFontMetricsF metrics(font);
+        for (ushort c = firstPlain; c <= lastPlain; ++c) {
+            m_widths[c - firstPlain] = metrics.horizontalAdvance(QChar(c));
+        }
+    }
+
+    /** Returns the width of @p text, or more than any box has if it has other letters or none. */
+    qreal widthOf(const QString &text) const
+    {
+        qreal width = text.isEmpty() ? QWIDGETSIZE_MAX : 0;
+        for (const QChar c : text) {
+            const bool isPlain = c.unicode() >= firstPlain && c.unicode() <= lastPlain;
+            width += isPlain ? m_widths[c.unicode() - firstPlain] : QWIDGETSIZE_MAX;
+        }
+        return width;
+    }
+
+private:
+    std::array<qreal, lastPlain - firstPlain + 1> m_widths = {};
+};
+
+/** Whether anyone is told before @p model is reset, and may look at what it still holds. */
+bool isResetWatched(const QAbstractItemModel *model)
+{
+    struct Access : QObject
+    {
+        using QObject::isSignalConnected;
+    };
+    static const QMetaMethod signal =
+        QMetaMethod::fromSignal(&QAbstractItemModel::modelAboutToBeReset);
+    return (model->*&Access::isSignalConnected)(signal);
 }
 
 } // namespace
@@ -134,7 +174,6 @@ void EditComboBoxPrivate::createCompleter()
     completer->setWidget(q);
     completer->popup()->setStyleSheet(QLatin1String(popupStyle));
     m_delegate = completer->popup()->itemDelegate();
-    updateRowHeights();
 }
 
 int EditComboBoxPrivate::indexOf(const QString &text)
@@ -156,9 +195,11 @@ void EditComboBoxPrivate::append(const QStringList &texts)
     auto *model = qobject_cast<QStringListModel *>(completer->model());
     std::unique_ptr<QStringListModel> former;
     if (model) {
-        // While the model shares the list, each entry would cost a copy of all of them.
-        const QSignalBlocker blocker(model);
-        model->setStringList(QStringList());
+        if (!isResetWatched(model)) {
+            // While the model shares the list, each entry would cost a copy of all of them.
+            const QSignalBlocker blocker(model);
+            model->setStringList(QStringList());
+        }
     } else {
         // The host gave the completer a model of another kind; it goes back to the host.
         former = std::move(m_substitute);
@@ -168,7 +209,6 @@ void EditComboBoxPrivate::append(const QStringList &texts)
     items += texts;
     model->setStringList(items);
     giveToCompleter(model);
-    updateRowHeights();
 }
 
 /** Sets @p model as if it were a new one, which closes the list. */
@@ -179,32 +219,58 @@ void EditComboBoxPrivate::giveToCompleter(QStringListModel *model)
         return;
     }
     const bool isOurs = target == completer;
-    if (isOurs && target->model() == model && m_delegate &&
-        target->popup()->itemDelegate() == m_delegate) {
+    QAbstractItemView *popup = target->popup();
+    if (isOurs && target->model() == model && popup && m_delegate &&
+        popup->itemDelegate() == m_delegate) {
         // Up to Qt 5.15 setting the same model again does no more than this, but leaves one more
         // delegate in the popup each time: half a kilobyte and several microseconds per entry.
-        target->popup()->hide();
+        popup->hide();
         return;
     }
     target->setModel(model);
-    if (isOurs) {
-        m_delegate = target->popup()->itemDelegate();
+    if (isOurs && popup) {
+        m_delegate = popup->itemDelegate();
     }
 }
 
 /**
- * Lets the list measure one row in place of all, which takes long in a long list, unless an entry
- * is higher than the others because it has several lines.
+ * Lets the list measure one row in place of all, which takes long in a long list, but only where
+ * that cannot be seen: no row is higher than another, and none is wider than the list.
  */
 void EditComboBoxPrivate::updateRowHeights()
 {
-    while (!m_hasLineBreaks && m_checkedForLineBreaks < items.size()) {
-        m_hasLineBreaks = breaksLines(items.at(m_checkedForLineBreaks++));
-    }
     auto *list = qobject_cast<QListView *>(completer->popup());
-    if (list && list->uniformItemSizes() == m_hasLineBreaks) {
-        list->setUniformItemSizes(!m_hasLineBreaks);
+    if (!list) {
+        return;
     }
+    const bool alike = items.size() >= longList && rowsAreAlike(list);
+    if (list->uniformItemSizes() != alike) {
+        list->setUniformItemSizes(alike);
+        // Lays out the rows again, which the call above leaves to others.
+        list->setSpacing(list->spacing());
+    }
+}
+
+bool EditComboBoxPrivate::rowsAreAlike(QListView *list)
+{
+    auto *model = qobject_cast<QStringListModel *>(completer->model());
+    if (!model || model->rowCount() != items.size() || list->itemDelegate() != m_delegate) {
+        return false;
+    }
+    list->ensurePolished();
+    if (m_measuredFont != list->font()) {
+        m_measuredFont = list->font();
+        m_measured = 0;
+        m_widest = 0;
+    }
+    if (m_measured < items.size()) {
+        const PlainWidths widths(m_measuredFont);
+        for (; m_measured < items.size(); ++m_measured) {
+            m_widest = std::max(m_widest, widths.widthOf(items.at(m_measured)));
+        }
+    }
+    // Kerning makes a text a little wider at most. Typing opens a list as wide as the line edit.
+    return m_widest * 1.1 + besideText <= lineEdit->width();
 }
 
 void EditComboBoxPrivate::clear()
@@ -212,12 +278,11 @@ void EditComboBoxPrivate::clear()
     items.clear();
     m_firstIndex.clear();
     m_indexed = 0;
-    m_checkedForLineBreaks = 0;
-    m_hasLineBreaks = false;
+    m_measured = 0;
+    m_widest = 0;
     if (auto *model = qobject_cast<QStringListModel *>(completer->model())) {
         model->setStringList(QStringList());
     }
-    updateRowHeights();
 }
 
 void EditComboBoxPrivate::activate(const QString &text)
@@ -254,6 +319,8 @@ void EditComboBoxPrivate::finishEditing()
 void EditComboBoxPrivate::followText(const QString &text)
 {
     const SignalScope scope(this);
+    // Typing opens the list next.
+    updateRowHeights();
     const int index = indexOf(text);
     if (index != currentIndex) {
         currentIndex = index;
@@ -273,6 +340,7 @@ void EditComboBoxPrivate::announceText(const QString &text)
 void EditComboBoxPrivate::showAll()
 {
     const SignalScope scope(this);
+    updateRowHeights();
     if (!restart(QString())) {
         completer->setCompletionPrefix(QString());
     }
@@ -284,6 +352,7 @@ void EditComboBoxPrivate::showMatches()
 {
     if (QCompleter *list = lineEdit->completer()) {
         const SignalScope scope(this);
+        updateRowHeights();
         const QString text = lineEdit->text();
         if (list != completer || !restart(text)) {
             list->setCompletionPrefix(text);
@@ -299,7 +368,7 @@ void EditComboBoxPrivate::showMatches()
 bool EditComboBoxPrivate::restart(const QString &prefix)
 {
     QAbstractItemView *popup = completer->popup();
-    if (completer->completionPrefix() != prefix || popup->isVisible()) {
+    if (!popup || completer->completionPrefix() != prefix || popup->isVisible()) {
         return false;
     }
     completer->setCurrentRow(0);
@@ -309,9 +378,14 @@ bool EditComboBoxPrivate::restart(const QString &prefix)
 
 void EditComboBoxPrivate::open(QCompleter *list)
 {
+    if (!list->widget()) {
+        // The host took the completer away from the line edit, which leaves it without a place.
+        list->setWidget(q);
+    }
     list->complete(q->rect());
+    // A completer that the host made complete inline has no popup.
     QAbstractItemView *popup = list->popup();
-    if (!popup->isVisible()) {
+    if (popup && !popup->isVisible()) {
         // There is nothing to show, and the completer leaves the popup where it was last.
         popup->setGeometry(QRect(q->mapToGlobal(QPoint(0, q->height())), q->size()));
         popup->show();
@@ -323,7 +397,9 @@ void EditComboBoxPrivate::dismantle()
     lineEdit->removeEventFilter(q);
     disconnect(lineEdit, nullptr, this, nullptr);
     disconnect(completer, nullptr, this, nullptr);
-    completer->popup()->hide();
+    if (QAbstractItemView *popup = completer->popup()) {
+        popup->hide();
+    }
     if (lineEdit->completer() == completer) {
         lineEdit->setCompleter(nullptr);
     }

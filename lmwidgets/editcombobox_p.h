@@ -1,6 +1,7 @@
 #ifndef LMWIDGETS_EDITCOMBOBOX_P_H
 #define LMWIDGETS_EDITCOMBOBOX_P_H
 
+#include <QFont>
 #include <QHash>
 #include <QObject>
 #include <QPointer>
@@ -13,6 +14,7 @@ QT_BEGIN_NAMESPACE
 class QAbstractItemDelegate;
 class QCompleter;
 class QLineEdit;
+class QListView;
 class QPushButton;
 class QStringListModel;
 QT_END_NAMESPACE
@@ -68,12 +70,15 @@ private:
     void open(QCompleter *list);
     void giveToCompleter(QStringListModel *model);
     void updateRowHeights();
+    bool rowsAreAlike(QListView *list);
 
     // Where each text is found first, for the first m_indexed entries. Filled when it is asked for.
     QHash<QString, int> m_firstIndex;
     int m_indexed = 0;
-    int m_checkedForLineBreaks = 0;
-    bool m_hasLineBreaks = false;
+    // The width of the widest of the first m_measured entries in the font of the list.
+    QFont m_measuredFont;
+    int m_measured = 0;
+    qreal m_widest = 0;
     int m_signalsRunning = 0;
     QPointer<QAbstractItemDelegate> m_delegate;
     // Stands in for a model that the host put in the completer's place; has no parent.

@@ -54,6 +54,7 @@ private Q_SLOTS:
     void accessibleState();
     void accessiblePress();
     void accessibleSubclass();
+    void accessibleWhileDestroyed();
     void accessibleNameOfTheLineEdit();
 };
 
@@ -382,6 +383,45 @@ void tst_EditComboBoxLife::accessibleSubclass()
     Derived other;
     QCOMPARE(QAccessible::queryAccessibleInterface(&box)->role(), QAccessible::ComboBox);
     QCOMPARE(QAccessible::queryAccessibleInterface(&other)->role(), QAccessible::ComboBox);
+}
+
+// A box that is a window is hidden when it is not much more than a QWidget any more, and assistive
+// technology is told so.
+void tst_EditComboBoxLife::accessibleWhileDestroyed()
+{
+    class Asker : public QObject
+    {
+    public:
+        bool eventFilter(QObject *watched, QEvent *event) override
+        {
+            if (event->type() == QEvent::Hide) {
+                ask(*QAccessible::queryAccessibleInterface(watched));
+            }
+            return false;
+        }
+
+        void ask(QAccessibleInterface &accessible)
+        {
+            QVERIFY(accessible.text(QAccessible::Value).isEmpty());
+            accessible.setText(QAccessible::Value, QStringLiteral("a"));
+            QVERIFY(!accessible.state().hasPopup);
+            QAccessibleActionInterface *action = accessible.actionInterface();
+            const QString press = QAccessibleActionInterface::pressAction();
+            QVERIFY(!action->actionNames().contains(press));
+            action->doAction(press);
+            ++answers;
+        }
+
+        int answers = 0;
+    };
+    auto *box = new EditComboBox({"a", "b"}, nullptr);
+    show(*box);
+    box->setCurrentIndex(1);
+    QVERIFY(QAccessible::queryAccessibleInterface(box));
+    Asker asker;
+    box->installEventFilter(&asker);
+    delete box;
+    QCOMPARE(asker.answers, 1);
 }
 
 void tst_EditComboBoxLife::accessibleNameOfTheLineEdit()

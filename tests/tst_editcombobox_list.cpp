@@ -22,6 +22,8 @@ private Q_SLOTS:
     void pressWithEveryButton();
     void pressInADisabledBox();
     void pressWithoutCompleter();
+    void buttonWithoutCompleter();
+    void inlineCompletion();
     void buttonShowsAll();
     void disabledButton();
     void nothingToShow();
@@ -37,10 +39,13 @@ private Q_SLOTS:
     void addingClosesTheList();
     void addingKeepsOneDelegate();
     void modelIsReset();
+    void modelBeforeItsReset();
     void otherEventsReachTheLineEdit();
     void rowHeights();
     void openedAgainAsIfAnew();
-    void longListWithSeveralLines();
+    void rowsOfALongList_data();
+    void rowsOfALongList();
+    void wideRow();
 };
 
 void tst_EditComboBoxList::typingFilters()
@@ -129,6 +134,36 @@ void tst_EditComboBoxList::pressWithoutCompleter()
                       QPoint(lineEdit(box)->width() - 4, 10));
     QVERIFY(!list->isVisible());
     QCOMPARE(lineEdit(box)->cursorPosition(), 0);
+}
+
+// The button goes on showing the list of the box after the host took the completer away.
+void tst_EditComboBoxList::buttonWithoutCompleter()
+{
+    EditComboBox box({"a", "b"}, nullptr);
+    show(box);
+    QAbstractItemView *list = popup(box);
+    lineEdit(box)->setCompleter(nullptr);
+    QTest::mouseClick(button(box), Qt::LeftButton);
+    QVERIFY(list->isVisible());
+    QCOMPARE(list->width(), box.width());
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier,
+                      list->visualRect(list->model()->index(1, 0)).center());
+    QCOMPARE(lineEdit(box)->text(), QStringLiteral("b"));
+    QCOMPARE(box.currentIndex(), 1);
+}
+
+void tst_EditComboBoxList::inlineCompletion()
+{
+    EditComboBox box({"alpha", "beta"}, nullptr);
+    show(box);
+    completer(box)->setCompletionMode(QCompleter::InlineCompletion);
+    box.addItem(QStringLiteral("gamma"));
+    QTest::mouseClick(button(box), Qt::LeftButton);
+    lineEdit(box)->clear();
+    QTest::mouseClick(lineEdit(box), Qt::LeftButton);
+    box.addItem(QStringLiteral("delta"));
+    QCOMPARE(modelEntries(box), QStringList({"alpha", "beta", "gamma", "delta"}));
+    QVERIFY(!QApplication::activePopupWidget());
 }
 
 void tst_EditComboBoxList::buttonShowsAll()
@@ -342,6 +377,23 @@ void tst_EditComboBoxList::modelIsReset()
     QCOMPARE(inserted.count(), 0);
 }
 
+// Whoever looks at the model when it announces its reset sees the entries that it had.
+void tst_EditComboBoxList::modelBeforeItsReset()
+{
+    EditComboBox box({"a"}, nullptr);
+    QVector<QStringList> before;
+    QVector<int> counts;
+    connect(completer(box)->model(), &QAbstractItemModel::modelAboutToBeReset, &box, [&] {
+        before += modelEntries(box);
+        counts += box.count();
+    });
+    box.addItem(QStringLiteral("b"));
+    box.addItems({"c", "d"});
+    box.clear();
+    QCOMPARE(before, QVector<QStringList>({{"a"}, {"a", "b"}, {"a", "b", "c", "d"}}));
+    QCOMPARE(counts, QVector<int>({2, 4, 0}));
+}
+
 void tst_EditComboBoxList::otherEventsReachTheLineEdit()
 {
     EditComboBox box({"a"}, nullptr);
@@ -412,19 +464,72 @@ void tst_EditComboBoxList::openedAgainAsIfAnew()
     }
 }
 
-void tst_EditComboBoxList::longListWithSeveralLines()
+/** The rows of the open list of @p box that a user sees at first. */
+static QVector<QRect> openedRows(const EditComboBox &box)
 {
-    EditComboBox box({"a", "b"}, nullptr);
+    QTest::mouseClick(button(box), Qt::LeftButton);
+    QVector<QRect> rows;
+    for (int row = 0; row < 4; ++row) {
+        rows += popup(box)->visualRect(popup(box)->model()->index(row, 0));
+    }
+    popup(box)->hide();
+    return rows;
+}
+
+void tst_EditComboBoxList::rowsOfALongList_data()
+{
+    QTest::addColumn<QString>("odd");
+    QTest::addColumn<bool>("alike");
+    QTest::newRow("as the others") << QStringLiteral("c") << true;
+    QTest::newRow("wide") << QString(60, QLatin1Char('m')) << false;
+    QTest::newRow("several lines") << QStringLiteral("one\ntwo") << false;
+    QTest::newRow("line separator") << QString(QChar::LineSeparator) << false;
+    QTest::newRow("letters of another font") << QString(QChar(0x6f22)) << false;
+    QTest::newRow("empty") << QString() << false;
+}
+
+// A long list may measure one row for all, but only where the rows come out as they are.
+void tst_EditComboBoxList::rowsOfALongList()
+{
+    QFETCH(QString, odd);
+    QFETCH(bool, alike);
+    QStringList entries = {"a", odd};
+    for (int i = 0; i < 1000; ++i) {
+        entries += QStringLiteral("b %1").arg(i);
+    }
+    EditComboBox box(entries, nullptr);
+    show(box);
     auto *list = qobject_cast<QListView *>(popup(box));
-    QVERIFY(list->uniformItemSizes());
+    const QVector<QRect> rows = openedRows(box);
+    QCOMPARE(list->uniformItemSizes(), alike);
+    list->setUniformItemSizes(false);
+    list->doItemsLayout();
+    QTest::mouseClick(button(box), Qt::LeftButton);
+    for (int row = 0; row < rows.size(); ++row) {
+        QCOMPARE(rows.at(row), list->visualRect(list->model()->index(row, 0)));
+    }
+    popup(box)->hide();
+    // An entry that comes later counts as well, and so do the width of the box and a short list.
     box.addItem(QStringLiteral("one\ntwo"));
-    QVERIFY(!list->uniformItemSizes());
-    box.addItem(QStringLiteral("c"));
+    openedRows(box);
     QVERIFY(!list->uniformItemSizes());
     box.clear();
-    QVERIFY(list->uniformItemSizes());
-    box.addItems({"a", QString(QChar::LineSeparator)});
+    box.addItems(entries);
+    openedRows(box);
+    QCOMPARE(list->uniformItemSizes(), alike);
+    box.resize(70, 30);
+    openedRows(box);
     QVERIFY(!list->uniformItemSizes());
+}
+
+// A short list measures each of its rows: a wide one is cut off, and the list is as high as they.
+void tst_EditComboBoxList::wideRow()
+{
+    EditComboBox box({QString(60, QLatin1Char('m')), "b", "c"}, nullptr);
+    show(box);
+    const QVector<QRect> rows = openedRows(box);
+    QVERIFY(rows.at(0).width() > box.width());
+    QVERIFY(rows.at(1).width() < box.width());
 }
 
 LMTEST_MAIN(tst_EditComboBoxList)
