@@ -17,6 +17,7 @@
 #include <lmwidgets/editcombobox.h>
 #include <lmwidgets/flowlayout.h>
 #include <lmwidgets/framelessdialog.h>
+#include <lmwidgets/framelessfiledialog.h>
 #include <lmwidgets/framelesshelper.h>
 #include <lmwidgets/framelessmessagebox.h>
 #include <lmwidgets/framelessprocessdialog.h>

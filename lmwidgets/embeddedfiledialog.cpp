@@ -1,0 +1,119 @@
+#include "embeddedfiledialog_p.h"
+
+#include <QCoreApplication>
+#include <QLineEdit>
+#include <QShowEvent>
+
+namespace LM {
+namespace Widgets {
+
+namespace {
+
+// The names of Qt's own parts of its file dialog.
+const char NameEdit[] = "fileNameEdit";
+
+/**
+ * Keeps Qt from using a dialog of the platform as long as it lives. Needed for the construction
+ * only: until its end the dialog does not know that it is of a derived class.
+ */
+class WithoutNativeDialogs
+{
+public:
+    WithoutNativeDialogs() { QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs, true); }
+    ~WithoutNativeDialogs()
+    {
+        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs, m_before);
+    }
+
+private:
+    Q_DISABLE_COPY(WithoutNativeDialogs)
+
+    const bool m_before = QCoreApplication::testAttribute(Qt::AA_DontUseNativeDialogs);
+};
+
+} // namespace
+
+/** The time in which the browser accepts or rejects, and in which it must not be destroyed. */
+class EmbeddedFileDialog::Ending
+{
+public:
+    explicit Ending(EmbeddedFileDialog *dialog) : m_dialog(dialog) { ++m_dialog->m_endings; }
+    ~Ending()
+    {
+        if (--m_dialog->m_endings == 0 && m_dialog->m_orphaned) {
+            m_dialog->deleteLater();
+        }
+    }
+
+private:
+    Q_DISABLE_COPY(Ending)
+
+    EmbeddedFileDialog *m_dialog;
+};
+
+EmbeddedFileDialog *EmbeddedFileDialog::create(QWidget *frame, const QString &caption,
+                                               const QString &directory, const QString &filter)
+{
+    const WithoutNativeDialogs withoutNativeDialogs;
+    auto *dialog = new EmbeddedFileDialog(frame, caption, directory, filter);
+    dialog->becomePartOfFrame();
+    return dialog;
+}
+
+EmbeddedFileDialog *EmbeddedFileDialog::create(QWidget *frame, Qt::WindowFlags flags)
+{
+    const WithoutNativeDialogs withoutNativeDialogs;
+    auto *dialog = new EmbeddedFileDialog(frame, flags);
+    dialog->becomePartOfFrame();
+    return dialog;
+}
+
+void EmbeddedFileDialog::becomePartOfFrame()
+{
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    setWindowFlags(windowFlags() & ~Qt::WindowType_Mask);
+    // The frame resizes itself, by its edges.
+    setSizeGripEnabled(false);
+}
+
+void EmbeddedFileDialog::leaveDyingFrame()
+{
+    if (m_endings > 0) {
+        m_orphaned = true;
+        setParent(nullptr);
+    }
+}
+
+void EmbeddedFileDialog::setVisible(bool visible)
+{
+    if (!visible && m_endings > 0 && !m_orphaned) {
+        return;
+    }
+    QFileDialog::setVisible(visible);
+}
+
+void EmbeddedFileDialog::accept()
+{
+    const Ending ending(this);
+    QFileDialog::accept();
+}
+
+void EmbeddedFileDialog::done(int result)
+{
+    const Ending ending(this);
+    QFileDialog::done(result);
+}
+
+void EmbeddedFileDialog::showEvent(QShowEvent *event)
+{
+    // QDialog would move itself to the middle of its parent's place on the screen.
+    QWidget::showEvent(event);
+    if (!event->spontaneous()) {
+        if (auto *edit = findChild<QLineEdit *>(QLatin1String(NameEdit))) {
+            edit->setFocus();
+        }
+    }
+}
+
+} // namespace Widgets
+} // namespace LM
