@@ -1,5 +1,6 @@
 #include "embeddedfiledialog_p.h"
 
+#include <QComboBox>
 #include <QCoreApplication>
 #include <QLineEdit>
 #include <QShowEvent>
@@ -9,8 +10,11 @@ namespace Widgets {
 
 namespace {
 
-// The names of Qt's own parts of its file dialog.
+// What Qt calls the field of the file's name.
 const char NameEdit[] = "fileNameEdit";
+
+// Letters for which the combo boxes ask for room.
+constexpr int ComboLetters = 20;
 
 /**
  * Keeps Qt from using a dialog of the platform as long as it lives. Needed for the construction
@@ -74,6 +78,12 @@ void EmbeddedFileDialog::becomePartOfFrame()
     setWindowFlags(windowFlags() & ~Qt::WindowType_Mask);
     // The frame resizes itself, by its edges.
     setSizeGripEnabled(false);
+    // Else the longest name filter would widen the frame, beyond the screen if need be.
+    const QList<QComboBox *> boxes = findChildren<QComboBox *>();
+    for (QComboBox *box : boxes) {
+        box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        box->setMinimumContentsLength(ComboLetters);
+    }
 }
 
 void EmbeddedFileDialog::leaveDyingFrame()

@@ -127,6 +127,7 @@ private Q_SLOTS:
     void unreadableDirectory();
     void saveNameIsAFolder();
     void longNames();
+    void longFilters();
     void hostileNames_data();
     void hostileNames();
     void manyDialogs();
@@ -509,6 +510,18 @@ void tst_FramelessFileDialogHosts::longNames()
     QCOMPARE(FramelessFileDialog::getOpenFileUrl(&parent, QString(), m_folder.url()),
              m_folder.url(longest));
     QVERIFY(QFile::remove(m_folder.file(longest)));
+}
+
+void tst_FramelessFileDialogHosts::longFilters()
+{
+    const QString filter =
+        QStringLiteral("Point clouds (%1)").arg(QStringLiteral("*.las ").repeated(200));
+    FramelessFileDialog dialog(nullptr, QString(), m_folder.path(), filter);
+    dialog.show();
+    QVERIFY(waitForShown(&dialog));
+    QCOMPARE(dialog.size(), QSize(800, 600).boundedTo(dialog.maximumSize()));
+    QCOMPARE(dialog.selectedNameFilter(), filter);
+    QVERIFY(dialog.rect().contains(browser(&dialog)->geometry()));
 }
 
 void tst_FramelessFileDialogHosts::hostileNames_data()
