@@ -5,6 +5,7 @@
 
 #include "containersscenario.h"
 #include "editcomboscenario.h"
+#include "filesscenario.h"
 #include "layerscenario.h"
 #include "progressscenario.h"
 #include "reporter.h"
@@ -295,6 +296,7 @@ QHash<QString, std::function<void()>> scenarios()
         {QStringLiteral("desktop-link"), runDesktopLink},
         {QStringLiteral("progress"), runProgress},
         {QStringLiteral("slider"), runSlider},
+        {QStringLiteral("files"), runFiles},
         {QStringLiteral("switches"), runSwitches},
         {QStringLiteral("value"), runValueDialog},
         {QStringLiteral("balloon"), runBalloon},
