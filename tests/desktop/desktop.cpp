@@ -201,6 +201,17 @@ QRect Host::lastGeometry(const QString &window) const
     return last < 0 ? QRect() : rectAt(m_lines.at(last).split(QLatin1Char(' ')), 2);
 }
 
+QRect Host::lastRect(const QString &words) const
+{
+    const QString start = words + QLatin1Char(' ');
+    for (int i = m_lines.size() - 1; i >= 0; --i) {
+        if (m_lines.at(i).startsWith(start)) {
+            return rectAt(m_lines.at(i).mid(start.size()).split(QLatin1Char(' ')), 0);
+        }
+    }
+    return QRect();
+}
+
 bool Host::waitForGeometry(const QString &window, const QRect &geometry)
 {
     return QTest::qWaitFor([this, &window, &geometry] { return lastGeometry(window) == geometry; },

@@ -80,6 +80,8 @@ public:
     bool waitForGeometry(const QString &window, const QRect &geometry);
     /** Returns the geometry of @p window according to the host's last words about it. */
     QRect lastGeometry(const QString &window) const;
+    /** Returns the rectangle at the end of the last line that begins with @p words and a blank. */
+    QRect lastRect(const QString &words) const;
 
     /** Asks where the visible widget @p name stands on the screen; an invalid rectangle if nowhere.
      */

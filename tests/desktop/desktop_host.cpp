@@ -291,12 +291,15 @@ QHash<QString, std::function<void()>> scenarios()
          [] { QTimer::singleShot(0, [] { askWithStandardButtons(nullptr); }); }},
         {QStringLiteral("panel"), runPanel},
         {QStringLiteral("layers"), runLayers},
+        {QStringLiteral("files-open"), runFilesOpen},
+        {QStringLiteral("files-save"), runFilesSave},
+        {QStringLiteral("files-alone"), runFilesAlone},
+        {QStringLiteral("files-native"), runFilesNative},
         {QStringLiteral("editcombo"), runEditCombo},
         {QStringLiteral("small"), runSmallWidgets},
         {QStringLiteral("desktop-link"), runDesktopLink},
         {QStringLiteral("progress"), runProgress},
         {QStringLiteral("slider"), runSlider},
-        {QStringLiteral("files"), runFiles},
         {QStringLiteral("switches"), runSwitches},
         {QStringLiteral("value"), runValueDialog},
         {QStringLiteral("balloon"), runBalloon},
@@ -311,6 +314,9 @@ QHash<QString, std::function<void()>> scenarios()
 
 int main(int argc, char **argv)
 {
+    if (argc > 1 && qstrcmp(argv[1], "files-native") == 0) {
+        preferNativeFileDialogs();
+    }
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
