@@ -4,6 +4,7 @@
 #include <lmwidgets/talvostylemanager.h>
 
 #include "layoutpause_p.h"
+#include "owntext_p.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -268,14 +269,15 @@ QString CollapsibleGroupBoxBasic::syncGroup()
 void CollapsibleGroupBoxBasic::setSyncGroup(const QString &grp)
 {
     m_syncGroup = grp;
-    QString toolTip;
-    if (!grp.isEmpty()) {
-        toolTip = tr("Ctrl (or Alt)-click to toggle all") + QLatin1Char('\n') +
-                  tr("Shift-click to expand, then collapse others");
+    if (!m_collapseButton) {
+        return;
     }
-    if (m_collapseButton) {
-        m_collapseButton->setToolTip(toolTip);
-    }
+    const bool isGrouped = !grp.isEmpty();
+    LM::Widgets::setOwnToolTip(m_collapseButton.data(), [isGrouped] {
+        return isGrouped ? tr("Ctrl (or Alt)-click to toggle all") + QLatin1Char('\n') +
+                               tr("Shift-click to expand, then collapse others")
+                         : QString();
+    });
 }
 
 void CollapsibleGroupBoxBasic::checkToggled(bool ckd)

@@ -1,6 +1,7 @@
 #include <lmwidgets/customlayertablewidget.h>
 
 #include "layercolordialog_p.h"
+#include "owntext_p.h"
 
 #include <lmwidgets/customdelegate.h>
 #include <lmwidgets/customlayertoolbutton.h>
@@ -94,17 +95,33 @@ QIcon colorIcon(const QColor &color)
     return QIcon(pixmap);
 }
 
+/** Adds an entry under the name of a colour, which follows the language. */
+void addColor(QComboBox *box, const char *name)
+{
+    const auto translated = [name] { return QCoreApplication::translate("QObject", name); };
+    box->addItem(translated());
+    followLanguage(box, name, {translated, [box](const QString &former, const QString &now) {
+                                   // Found by its text: a host may have put entries of its own before it.
+                                   const int index = box->findText(
+                                       former, Qt::MatchExactly | Qt::MatchCaseSensitive);
+                                   if (index >= 0) {
+                                       box->setItemText(index, now);
+                                   }
+                               }});
+}
+
 QComboBox *createColorBox(QWidget *parent)
 {
     auto *box = new QComboBox(parent);
     int count = 0;
     const NamedColor *colors = namedColors(&count);
     for (int i = 0; i < count; ++i) {
-        box->addItem(colorIcon(colors[i].color),
-                     QCoreApplication::translate("QObject", colors[i].name));
+        addColor(box, colors[i].name);
+        box->setItemIcon(i, colorIcon(colors[i].color));
         box->setItemData(i, colors[i].color, Qt::UserRole);
     }
-    box->addItem(QCoreApplication::translate("QObject", "Others"), QStringLiteral("OTHERS"));
+    addColor(box, QT_TRANSLATE_NOOP("QObject", "Others"));
+    box->setItemData(count, QStringLiteral("OTHERS"), Qt::UserRole);
     return box;
 }
 
@@ -132,9 +149,10 @@ void placeWidget(QTableWidget *table, int row, int column, QWidget *widget)
     table->setCellWidget(row, column, widget);
 }
 
-QLabel *placeCaption(QTableWidget *table, int row, const QString &text)
+QLabel *placeCaption(QTableWidget *table, int row, const std::function<QString()> &text)
 {
-    auto *caption = new QLabel(text, table);
+    auto *caption = new QLabel(table);
+    setOwnText(caption, text);
     caption->setStyleSheet(QLatin1String(CaptionStyle));
     placeWidget(table, row, CaptionColumn, caption);
     return caption;
@@ -260,12 +278,12 @@ void CustomLayerTableWidget::creatLayerProperties()
     buildPropertyTable(this, LayerPropertyCount);
 
     const Qt::Alignment alignment = Qt::AlignLeft | Qt::AlignVCenter;
-    placeCaption(this, 0, tr("Name"))->setAlignment(alignment);
+    placeCaption(this, 0, [] { return tr("Name"); })->setAlignment(alignment);
     placeLabel(this, 0);
-    placeCaption(this, 1, tr("Line Style"))->setAlignment(alignment);
+    placeCaption(this, 1, [] { return tr("Line Style"); })->setAlignment(alignment);
     placeWidget(this, 1, EditorColumn,
                 createLineStyleBox(this, QStringLiteral("pLineStyleCombobox")));
-    placeCaption(this, 2, tr("Line Width"))->setAlignment(alignment);
+    placeCaption(this, 2, [] { return tr("Line Width"); })->setAlignment(alignment);
     placeWidget(this, 2, EditorColumn,
                 createLineWidthBox(this, QStringLiteral("pLineWidthCombobox")));
     setRowHeights(this);
@@ -275,14 +293,14 @@ void CustomLayerTableWidget::creatObjectProperties()
 {
     buildPropertyTable(this, ObjectPropertyCount);
 
-    placeCaption(this, 0, tr("Layer"));
+    placeCaption(this, 0, [] { return tr("Layer"); });
     placeLabel(this, 0);
-    placeCaption(this, 1, tr("Color"));
+    placeCaption(this, 1, [] { return tr("Color"); });
     placeWidget(this, 1, EditorColumn, createColorBox(this));
-    placeCaption(this, 2, tr("Line Style"));
+    placeCaption(this, 2, [] { return tr("Line Style"); });
     placeWidget(this, 2, EditorColumn,
                 createLineStyleBox(this, QStringLiteral("pObjectLineTypeboBox")));
-    placeCaption(this, 3, tr("Line Width"));
+    placeCaption(this, 3, [] { return tr("Line Width"); });
     placeWidget(this, 3, EditorColumn,
                 createLineWidthBox(this, QStringLiteral("pObjectLineWidthboBox")));
     setRowHeights(this);

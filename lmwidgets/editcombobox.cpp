@@ -2,6 +2,7 @@
 
 #include "accessibleeditcombobox_p.h"
 #include "editcombobox_p.h"
+#include "owntext_p.h"
 
 #include <lmwidgets/talvostylemanager.h>
 
@@ -154,7 +155,7 @@ void EditComboBoxPrivate::createButton()
     dropDownButton->setFocusPolicy(Qt::NoFocus);
     dropDownButton->setIcon(QIcon(TalvoStyleManager::instance()->currentThemePath() +
                                   QLatin1String("qssimage/Dropdownbutton.png")));
-    dropDownButton->setAccessibleName(EditComboBox::tr("Show all entries"));
+    setOwnAccessibleName(dropDownButton, [] { return EditComboBox::tr("Show all entries"); });
     dropDownButton->setFixedSize(buttonSize);
     dropDownButton->setIconSize(buttonSize);
     dropDownButton->setStyleSheet(QLatin1String(buttonStyle));

@@ -97,6 +97,23 @@ void EmbeddedFileDialog::leaveDyingFrame()
     }
 }
 
+void EmbeddedFileDialog::setLastingLabelText(DialogLabel label, const QString &text)
+{
+    m_labels.insert(label, text);
+    setLabelText(label, text);
+}
+
+bool EmbeddedFileDialog::event(QEvent *event)
+{
+    const bool handled = QFileDialog::event(event);
+    if (event->type() == QEvent::LanguageChange) {
+        for (auto label = m_labels.cbegin(); label != m_labels.cend(); ++label) {
+            setLabelText(label.key(), label.value());
+        }
+    }
+    return handled;
+}
+
 void EmbeddedFileDialog::setVisible(bool visible)
 {
     if (!visible && m_endings > 0 && !m_orphaned) {

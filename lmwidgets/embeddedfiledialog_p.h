@@ -2,6 +2,7 @@
 #define LMWIDGETS_EMBEDDEDFILEDIALOG_P_H
 
 #include <QFileDialog>
+#include <QMap>
 
 namespace LM {
 namespace Widgets {
@@ -30,11 +31,18 @@ public:
      */
     void leaveDyingFrame();
 
+    /**
+     * Gives a button or a label its text for good. Qt's button box gives its buttons Qt's own texts
+     * back when the language changes.
+     */
+    void setLastingLabelText(DialogLabel label, const QString &text);
+
     void setVisible(bool visible) override;
 
 protected:
     void accept() override;
     void done(int result) override;
+    bool event(QEvent *event) override;
     void showEvent(QShowEvent *event) override;
 
 private:
@@ -46,6 +54,7 @@ private:
 
     int m_endings = 0;
     bool m_orphaned = false;
+    QMap<DialogLabel, QString> m_labels;
 };
 
 } // namespace Widgets

@@ -2,6 +2,7 @@
 
 #include "buttontaborder_p.h"
 #include "framelessdialog_p.h"
+#include "owntext_p.h"
 
 #include <lmwidgets/framelesshelper.h>
 #include <lmwidgets/frameline.h>
@@ -98,9 +99,12 @@ void FramelessDialogPrivate::createBottomRow()
     applyButton->setProperty("vantorcancelbbutton", true);
     applyButton->hide();
 
-    okButton->setText(QCoreApplication::translate("FramelessDialog", "OK"));
-    cancelButton->setText(QCoreApplication::translate("FramelessDialog", "Cancel"));
-    applyButton->setText(QCoreApplication::translate("FramelessDialog", "Apply"));
+    setOwnText(okButton.data(),
+               [] { return QCoreApplication::translate("FramelessDialog", "OK"); });
+    setOwnText(cancelButton.data(),
+               [] { return QCoreApplication::translate("FramelessDialog", "Cancel"); });
+    setOwnText(applyButton.data(),
+               [] { return QCoreApplication::translate("FramelessDialog", "Apply"); });
 
     bottomLayout->addWidget(cancelButton);
     bottomLayout->addWidget(applyButton);

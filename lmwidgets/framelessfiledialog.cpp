@@ -1,6 +1,7 @@
 #include <lmwidgets/framelessfiledialog.h>
 
 #include "embeddedfiledialog_p.h"
+#include "owntext_p.h"
 
 #include <QAbstractItemDelegate>
 #include <QAbstractProxyModel>
@@ -18,6 +19,31 @@ namespace {
 constexpr QSize InitialSize(800, 600);
 constexpr int BottomLabelHeight = 10;
 const char BottomLabelName[] = "filedialogbottomlabel";
+
+} // namespace
+
+namespace {
+
+void setLabel(QFileDialog *browser, QFileDialog::DialogLabel label, const QString &text)
+{
+    if (auto *embedded = qobject_cast<EmbeddedFileDialog *>(browser)) {
+        embedded->setLastingLabelText(label, text);
+    } else {
+        browser->setLabelText(label, text);
+    }
+}
+
+void setOwnRejectLabel(QFileDialog *browser)
+{
+    const auto text = [] { return QCoreApplication::translate("FramelessFileDialog", "Cancel"); };
+    setLabel(browser, QFileDialog::Reject, text());
+    followLanguage(browser, "reject label",
+                   {text, [browser](const QString &former, const QString &now) {
+                        if (browser->labelText(QFileDialog::Reject) == former) {
+                            setLabel(browser, QFileDialog::Reject, now);
+                        }
+                    }});
+}
 
 } // namespace
 
@@ -42,8 +68,7 @@ FramelessFileDialog::FramelessFileDialog(QWidget *parent, Qt::WindowFlags flags)
     : FramelessDialog(parent, flags), fileDialog(EmbeddedFileDialog::create(this, flags))
 {
     fileDialog->setOptions(QFileDialog::DontConfirmOverwrite);
-    fileDialog->setLabelText(QFileDialog::Reject,
-                             QCoreApplication::translate("FramelessFileDialog", "Cancel"));
+    setOwnRejectLabel(fileDialog);
     placeBrowser();
     // Nothing closes this dialog but its host, which decides in a slot what becomes of it.
     connect(fileDialog, &QDialog::rejected, this, &QDialog::rejected);
@@ -256,7 +281,7 @@ QString FramelessFileDialog::labelText(QFileDialog::DialogLabel label) const
 void FramelessFileDialog::setLabelText(QFileDialog::DialogLabel label, const QString &text)
 {
     if (fileDialog) {
-        fileDialog->setLabelText(label, text);
+        setLabel(fileDialog, label, text);
     }
 }
 

@@ -2,6 +2,8 @@
  * The functions that show a file dialog and return what was chosen.
  */
 
+#include "framelessmessagebox_p.h"
+#include "owntext_p.h"
 #include "savename_p.h"
 
 #include <lmwidgets/framelessfiledialog.h>
@@ -10,6 +12,7 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 
+#include <functional>
 #include <optional>
 
 namespace LM {
@@ -20,7 +23,7 @@ namespace {
 /** What the framed dialog of one call is to be. */
 struct Request
 {
-    QString title;
+    std::function<QString()> title;
     QFileDialog::FileMode fileMode;
     QFileDialog::Options options;
     QString selection;
@@ -39,7 +42,7 @@ std::optional<QList<QUrl>> choose(FramelessFileDialog *dialog, const Request &re
     if (request.acceptMode == QFileDialog::AcceptSave) {
         dialog->setAcceptMode(QFileDialog::AcceptSave);
     }
-    dialog->setWindowTitle(request.title);
+    setOwnTitle(dialog, request.title);
 
     const QPointer<FramelessFileDialog> guard(dialog);
     if (dialog->exec() != QDialog::Accepted || !guard) {
@@ -62,6 +65,16 @@ QString openTitle()
     return QCoreApplication::translate("FramelessFileDialog", "Open File");
 }
 
+QString saveTitle()
+{
+    return QCoreApplication::translate("MainWindow", "Save File");
+}
+
+QString directoryTitle()
+{
+    return QCoreApplication::translate("FramelessFileDialog", "Select Directory");
+}
+
 QFileDialog::FileMode directoryMode(QFileDialog::Options options)
 {
     if (!options.testFlag(QFileDialog::ShowDirsOnly)) {
@@ -76,12 +89,21 @@ QFileDialog::FileMode directoryMode(QFileDialog::Options options)
 
 void refuseSaveName()
 {
-    FramelessMessageBox::critical(
-        nullptr, QCoreApplication::translate("FramelessFileDialog", "Save failed"),
-        QCoreApplication::translate(
-            "FramelessFileDialog", "The file name cannot contain any of the following characters") +
-            QLatin1String("'?' '*' '<' '>' '\\' '/' '|'"),
-        QMessageBox::Ok, QMessageBox::NoButton);
+    const auto title = [] {
+        return QCoreApplication::translate("FramelessFileDialog", "Save failed");
+    };
+    const auto text = [] {
+        return QCoreApplication::translate(
+                   "FramelessFileDialog",
+                   "The file name cannot contain any of the following characters") +
+               QLatin1String("'?' '*' '<' '>' '\\' '/' '|'");
+    };
+    FramelessMessageBoxPrivate::ask(QMessageBox::Critical, nullptr,
+                                    {title(), text(), QMessageBox::Ok, QMessageBox::NoButton,
+                                     nullptr, false, true, [&](FramelessMessageBox *box) {
+                                         setOwnTitle(box, title);
+                                         setOwnText(box, text);
+                                     }});
 }
 
 } // namespace
@@ -157,7 +179,7 @@ QUrl FramelessFileDialog::getOpenFileUrl(QWidget *parent, const QString &caption
     auto *dialog =
         new FramelessFileDialog(parent, caption, workingDirectory(dir).toLocalFile(), filter);
     return firstOf(choose(dialog,
-                          {openTitle(), QFileDialog::ExistingFile, options, initialSelection(dir),
+                          {openTitle, QFileDialog::ExistingFile, options, initialSelection(dir),
                            supportedSchemes, QFileDialog::AcceptOpen},
                           selectedFilter));
 }
@@ -171,7 +193,7 @@ QList<QUrl> FramelessFileDialog::getOpenFileUrls(QWidget *parent, const QString 
     auto *dialog =
         new FramelessFileDialog(parent, caption, workingDirectory(dir).toLocalFile(), filter);
     return choose(dialog,
-                  {openTitle(), QFileDialog::ExistingFiles, options, initialSelection(dir),
+                  {openTitle, QFileDialog::ExistingFiles, options, initialSelection(dir),
                    supportedSchemes, QFileDialog::AcceptOpen},
                   selectedFilter)
         .value_or(QList<QUrl>());
@@ -186,8 +208,8 @@ QUrl FramelessFileDialog::getSaveFileUrl(QWidget *parent, const QString &caption
         new FramelessFileDialog(parent, caption, workingDirectory(dir).toLocalFile(), filter);
     const std::optional<QList<QUrl>> urls =
         choose(dialog,
-               {QCoreApplication::translate("MainWindow", "Save File"), QFileDialog::AnyFile,
-                options, initialSelection(dir), supportedSchemes, QFileDialog::AcceptSave},
+               {saveTitle, QFileDialog::AnyFile, options, initialSelection(dir), supportedSchemes,
+                QFileDialog::AcceptSave},
                selectedFilter);
     if (!urls) {
         return QUrl();
@@ -207,9 +229,8 @@ QUrl FramelessFileDialog::getExistingDirectoryUrl(QWidget *parent, const QString
     auto *dialog =
         new FramelessFileDialog(parent, caption, workingDirectory(dir).toLocalFile(), QString());
     return firstOf(choose(dialog,
-                          {QCoreApplication::translate("FramelessFileDialog", "Select Directory"),
-                           directoryMode(options), options, initialSelection(dir), supportedSchemes,
-                           QFileDialog::AcceptOpen},
+                          {directoryTitle, directoryMode(options), options, initialSelection(dir),
+                           supportedSchemes, QFileDialog::AcceptOpen},
                           nullptr));
 }
 

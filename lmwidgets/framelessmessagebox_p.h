@@ -16,6 +16,8 @@
 #include <QPointer>
 #include <QPushButton>
 
+#include <functional>
+
 QT_BEGIN_NAMESPACE
 class QDialogButtonBox;
 class QGraphicsEffect;
@@ -37,6 +39,8 @@ struct MessageBoxQuestion
     const char *propertyName;
     bool propertyValue;
     bool closeButtonVisible;
+    /** Called with the box before it is shown; may be empty. */
+    std::function<void(FramelessMessageBox *)> prepare = nullptr;
 };
 
 class FramelessMessageBoxPrivate : public QObject

@@ -3,6 +3,7 @@
  */
 
 #include "framelessmessagebox_p.h"
+#include "owntext_p.h"
 
 #include <lmwidgets/framelessmessagebox.h>
 
@@ -72,6 +73,9 @@ QMessageBox::StandardButton FramelessMessageBoxPrivate::ask(QMessageBox::Icon ic
     }
     box->d->addQuestionButtons(question);
     box->setDefaultOKButton();
+    if (question.prepare) {
+        question.prepare(box);
+    }
 
     const int result = box->exec();
     QMessageBox::StandardButton answer = QMessageBox::NoButton;
@@ -205,10 +209,22 @@ void FramelessMessageBox::aboutQt(QWidget *parent, const QString &title)
 {
     auto *box = new FramelessMessageBox(parent);
     box->setAttribute(Qt::WA_DeleteOnClose);
-    box->setWindowTitle(title.isEmpty() ? tr("About Qt") : title);
-    box->setText(tr("<h3>About Qt</h3><p>This program uses Qt version %1.</p>")
-                     .arg(QLatin1String(AboutQtVersion)));
+    if (title.isEmpty()) {
+        setOwnTitle(box, [] { return tr("About Qt"); });
+    } else {
+        box->setWindowTitle(title);
+    }
+    setOwnText(box, [] {
+        return tr("<h3>About Qt</h3><p>This program uses Qt version %1.</p>")
+            .arg(QLatin1String(AboutQtVersion));
+    });
     box->setInformativeText(aboutQtLicences());
+    followLanguage(box, "informative text",
+                   {aboutQtLicences, [box](const QString &former, const QString &now) {
+                        if (box->informativeText() == former) {
+                            box->setInformativeText(now);
+                        }
+                    }});
     const QPixmap logo{QLatin1String(AboutQtLogo)};
     if (!logo.isNull()) {
         box->setIconPixmap(logo);

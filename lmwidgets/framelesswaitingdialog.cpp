@@ -1,6 +1,7 @@
 #include <lmwidgets/framelesswaitingdialog.h>
 
 #include "framelesswaitingdialog_p.h"
+#include "owntext_p.h"
 
 #include <QApplication>
 #include <QHBoxLayout>
@@ -77,7 +78,9 @@ FramelessWaitingDialogPrivate::FramelessWaitingDialogPrivate(FramelessWaitingDia
     createLayout();
     q->setStyleSheet(QLatin1String(DialogStyle));
     q->setLayout(mainLayout);
-    textLabel->setText(QCoreApplication::translate("vantoroframelesswaitdialog", "loading..."));
+    setOwnText(textLabel, [] {
+        return QCoreApplication::translate("vantoroframelesswaitdialog", "loading...");
+    });
     stopButton->hide();
     connect(stopButton, &QPushButton::clicked, this,
             &FramelessWaitingDialogPrivate::slotCancelRequset);
@@ -108,7 +111,8 @@ void FramelessWaitingDialogPrivate::createStopButton()
     stopButton = new QPushButton(q);
     stopButton->setStyleSheet(QLatin1String(StopButtonStyle));
     stopButton->setFixedSize(StopButtonSize);
-    stopButton->setText(QCoreApplication::translate("PointListPickingDlg", "stop"));
+    setOwnText(stopButton,
+               [] { return QCoreApplication::translate("PointListPickingDlg", "stop"); });
 }
 
 void FramelessWaitingDialogPrivate::createLayout()

@@ -1,4 +1,5 @@
 #include "layercolordialog_p.h"
+#include "owntext_p.h"
 
 #include <lmwidgets/framelessdialog.h>
 
@@ -26,7 +27,8 @@ QColor LayerColorDialog::ask(QWidget *parent)
 {
     const QPointer<FramelessDialog> frame(new FramelessDialog(parent));
     frame->setTitleBarLabelStyleSheet(QLatin1String(TitleLabelStyle));
-    frame->setWindowTitle(QCoreApplication::translate("MainWindow", "Background Color"));
+    setOwnTitle(frame.data(),
+                [] { return QCoreApplication::translate("MainWindow", "Background Color"); });
 
     const QPointer<LayerColorDialog> colors(new LayerColorDialog(parent));
     connect(colors.data(), &QDialog::finished, frame.data(), &QWidget::close);

@@ -43,6 +43,7 @@
 #include <lmwidgets/talvotriangledlg.h>
 #include <lmwidgets/titlebar.h>
 #include <lmwidgets/toggleswitch.h>
+#include <lmwidgets/translations.h>
 #include <lmwidgets/vantoroframelessdialog.h>
 #include <lmwidgets/vantorotoolbutton.h>
 

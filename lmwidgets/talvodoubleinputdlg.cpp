@@ -1,5 +1,7 @@
 #include <lmwidgets/talvodoubleinputdlg.h>
 
+#include "owntext_p.h"
+
 #include <QCoreApplication>
 #include <QDoubleSpinBox>
 #include <QFile>
@@ -126,10 +128,14 @@ void TalvoDoubleInputDlgForm::build(QWidget *form)
 
 void TalvoDoubleInputDlgForm::translate(QWidget *form)
 {
-    form->setWindowTitle(
-        QCoreApplication::translate("TalvoDoubleInputDlg", "Statistical Outlier Removal"));
-    label_2->setText(QCoreApplication::translate("TalvoDoubleInputDlg", "Video Data"));
-    doubleSpinBox->setAccessibleName(label_2->text());
+    LM::Widgets::setOwnTitle(form, [] {
+        return QCoreApplication::translate("TalvoDoubleInputDlg", "Statistical Outlier Removal");
+    });
+    const auto label = [] {
+        return QCoreApplication::translate("TalvoDoubleInputDlg", "Video Data");
+    };
+    LM::Widgets::setOwnText(label_2.data(), label);
+    LM::Widgets::setOwnAccessibleName(doubleSpinBox.data(), label);
 }
 
 TalvoDoubleInputDlg::TalvoDoubleInputDlg(QWidget *parent)

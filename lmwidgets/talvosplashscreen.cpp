@@ -1,5 +1,7 @@
 #include <lmwidgets/talvosplashscreen.h>
 
+#include "owntext_p.h"
+
 #include <QColor>
 #include <QCoreApplication>
 #include <QFont>
@@ -28,6 +30,11 @@ QFont textFont()
     return font;
 }
 
+QString startingText()
+{
+    return QCoreApplication::translate("MainWindow", "Starting...");
+}
+
 } // namespace
 
 TalvoSplashScreen::TalvoSplashScreen(const QString &version, const QPixmap &pixmap,
@@ -38,6 +45,9 @@ TalvoSplashScreen::TalvoSplashScreen(const QString &version, const QPixmap &pixm
 {
     setFixedSize(SplashSize);
     setStyleSheet(QStringLiteral("QWidget { border: none; border-radius: 20px; }"));
+    // What drawContents() paints is no property of anything.
+    LM::Widgets::followLanguage(
+        this, "starting", {startingText, [this](const QString &, const QString &) { update(); }});
 }
 
 TalvoSplashScreen::~TalvoSplashScreen() = default;
@@ -45,7 +55,14 @@ TalvoSplashScreen::~TalvoSplashScreen() = default;
 void TalvoSplashScreen::beat()
 {
     m_beat = m_beat == LastBeat ? 1 : m_beat + 1;
-    showMessage(tr("Loading..."), Qt::AlignLeft, Qt::black);
+    const auto message = [] { return tr("Loading..."); };
+    showMessage(message(), Qt::AlignLeft, Qt::black);
+    LM::Widgets::followLanguage(this, "message",
+                                {message, [this](const QString &former, const QString &now) {
+                                     if (QSplashScreen::message() == former) {
+                                         showMessage(now, Qt::AlignLeft, Qt::black);
+                                     }
+                                 }});
 }
 
 void TalvoSplashScreen::drawContents(QPainter *painter)
@@ -64,7 +81,7 @@ void TalvoSplashScreen::drawContents(QPainter *painter)
     const int middle = (height() + font.pointSize()) / 2;
     painter->drawText((width() - metrics.horizontalAdvance(m_versionText)) / 2 + VersionShift,
                       metrics.ascent() + VersionDrop + middle, m_versionText);
-    const QString starting = QCoreApplication::translate("MainWindow", "Starting...");
+    const QString starting = startingText();
     painter->drawText((width() - metrics.horizontalAdvance(starting)) / 2,
                       metrics.ascent() + StartingDrop + middle, starting);
 }

@@ -2,6 +2,7 @@
 
 #include "buttontaborder_p.h"
 #include "dropshadow_p.h"
+#include "owntext_p.h"
 #include "vantoroframelessdialog_p.h"
 
 #include <lmwidgets/framelesshelper.h>
@@ -108,7 +109,8 @@ void VantoroFramelessDialogPrivate::createBottomRow(QFrame *contentFrame)
 
     okButton = new QPushButton(bottomWidget);
     okButton->setDefault(true);
-    applyButton = new QPushButton(tr("Apply"), bottomWidget);
+    applyButton = new QPushButton(bottomWidget);
+    setOwnText(applyButton.data(), [] { return tr("Apply"); });
     cancelButton = new QPushButton(bottomWidget);
     bottomLayout->addWidget(cancelButton);
     bottomLayout->addWidget(applyButton);
@@ -171,8 +173,10 @@ VantoroFramelessDialog::VantoroFramelessDialog(QWidget *parent, Qt::WindowFlags 
             &VantoroFramelessDialog::slotUIButtonCancel);
     connect(d->applyButton, &QPushButton::clicked, this,
             &VantoroFramelessDialog::slotUIButtonApply);
-    d->okButton->setText(QCoreApplication::translate("vantorolframelessdialog", "OK"));
-    d->cancelButton->setText(QCoreApplication::translate("vantorolframelessdialog", "Cancel"));
+    setOwnText(d->okButton.data(),
+               [] { return QCoreApplication::translate("vantorolframelessdialog", "OK"); });
+    setOwnText(d->cancelButton.data(),
+               [] { return QCoreApplication::translate("vantorolframelessdialog", "Cancel"); });
 }
 
 VantoroFramelessDialog::~VantoroFramelessDialog()
