@@ -1,5 +1,6 @@
 #include "application.h"
 
+#include "language.h"
 #include "mainwindow.h"
 #include "page.h"
 #include "shooter.h"
@@ -13,6 +14,7 @@
 #include <QApplication>
 #include <QCommandLineOption>
 #include <QCommandLineParser>
+#include <QProcess>
 #include <QTextStream>
 
 namespace gallery {
@@ -40,6 +42,12 @@ struct Options
     QCommandLineOption scale{QStringLiteral("scale"),
                              QStringLiteral("Scale everything by <factor>, for example 2."),
                              QStringLiteral("factor")};
+    QCommandLineOption language{QStringLiteral("language"),
+                                QStringLiteral("Let the library speak: %1.")
+                                    .arg(languageNames().join(QStringLiteral(", "))),
+                                QStringLiteral("name")};
+    QCommandLineOption rightToLeft{QStringLiteral("rtl"),
+                                   QStringLiteral("Lay everything out from right to left.")};
     QCommandLineOption noSplash{QStringLiteral("no-splash"),
                                 QStringLiteral("Show the window without a splash screen.")};
     QCommandLineOption list{QStringLiteral("list"),
@@ -48,7 +56,7 @@ struct Options
     void addTo(QCommandLineParser &parser) const
     {
         parser.setApplicationDescription(QStringLiteral("Shows the widgets of lmwidgets."));
-        parser.addOptions({shoot, theme, page, scale, noSplash, list});
+        parser.addOptions({shoot, theme, page, scale, language, rightToLeft, noSplash, list});
     }
 };
 
@@ -111,6 +119,10 @@ bool checkValues(const QCommandLineParser &parser, const Options &options, QText
         !checkName("theme", parser.value(options.theme), themeNames(), err)) {
         return false;
     }
+    if (parser.isSet(options.language) &&
+        !checkName("language", parser.value(options.language), languageNames(), err)) {
+        return false;
+    }
     return !parser.isSet(options.page) ||
            checkName("page", parser.value(options.page), pictureNames(), err);
 }
@@ -142,6 +154,12 @@ int showWindow(const QCommandLineParser &parser, const Options &options)
     }
     MainWindow window;
     window.showPage(parser.value(options.page));
+    QObject::connect(&window, &MainWindow::scaleChosen, &window, [](const QStringList &arguments) {
+        // QT_SCALE_FACTOR is inherited, and --scale says what it is to be instead.
+        if (QProcess::startDetached(QCoreApplication::applicationFilePath(), arguments)) {
+            QCoreApplication::quit();
+        }
+    });
     if (parser.isSet(options.noSplash)) {
         window.show();
     } else {
@@ -208,6 +226,10 @@ int run(const QStringList &arguments, QTextStream &out, QTextStream &err)
         return Success;
     }
     followTheme();
+    if (parser.isSet(options.language)) {
+        setLanguage(parser.value(options.language));
+    }
+    setRightToLeft(parser.isSet(options.rightToLeft));
     return parser.isSet(options.shoot) ? shootAsAsked(parser, options, out, err)
                                        : showWindow(parser, options);
 }

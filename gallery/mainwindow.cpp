@@ -1,5 +1,7 @@
 #include "mainwindow.h"
 
+#include "hostcode.h"
+#include "language.h"
 #include "page.h"
 #include "pageparts.h"
 #include "signallog.h"
@@ -7,9 +9,14 @@
 
 #include <lmwidgets/talvostylemanager.h>
 
+#include <QApplication>
 #include <QButtonGroup>
+#include <QCheckBox>
+#include <QClipboard>
+#include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
 #include <QScrollArea>
@@ -17,6 +24,8 @@
 #include <QStackedWidget>
 #include <QVariant>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace gallery {
 
@@ -26,10 +35,21 @@ namespace {
 
 constexpr QSize WindowSize(1280, 800);
 constexpr int WindowMargin = 12;
-constexpr int ListWidth = 210;
+constexpr int ListWidth = 226;
 constexpr int ListItemHeight = 32;
+constexpr int CodeMargin = 8;
+constexpr int CodeTopMargin = 6;
 constexpr int PageHeight = 560;
-constexpr int LogHeight = 170;
+constexpr int LogHeight = 190;
+constexpr int LogWidth = 620;
+constexpr int CodeWidth = 620;
+constexpr double Scales[] = {1, 1.25, 1.5, 2};
+
+double currentScale()
+{
+    const double scale = qEnvironmentVariable("QT_SCALE_FACTOR").toDouble();
+    return scale > 0 ? scale : 1;
+}
 
 } // namespace
 
@@ -40,19 +60,22 @@ MainWindow::MainWindow(QWidget *parent)
       m_log(new SignalLog)
 {
     setWindowTitle(QStringLiteral("lmwidgets gallery"));
-    createPageList();
-
     auto *upper = new QWidget;
     auto *upperLayout = new QHBoxLayout(upper);
     upperLayout->setContentsMargins(0, 0, 0, WindowMargin);
     upperLayout->setSpacing(WindowMargin);
-    upperLayout->addWidget(m_list);
+    upperLayout->addWidget(createPageColumn());
     upperLayout->addWidget(m_stack, 1);
 
     auto *splitter = new QSplitter(Qt::Vertical);
     splitter->setChildrenCollapsible(false);
     splitter->addWidget(upper);
-    splitter->addWidget(m_log);
+    auto *lower = new QSplitter;
+    lower->setChildrenCollapsible(false);
+    lower->addWidget(m_log);
+    lower->addWidget(createCodePanel());
+    lower->setSizes({LogWidth, CodeWidth});
+    splitter->addWidget(lower);
     splitter->setStretchFactor(0, 1);
     splitter->setSizes({PageHeight, LogHeight});
 
@@ -67,6 +90,7 @@ MainWindow::MainWindow(QWidget *parent)
     m_log->watch(TalvoStyleManager::instance().data(), QStringLiteral("TalvoStyleManager"));
     resize(WindowSize);
     m_list->setCurrentRow(0);
+    setTabOrder(m_search, m_list);
     m_list->setFocus();
 }
 
@@ -77,7 +101,10 @@ QWidget *MainWindow::createHeader()
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(heading(QStringLiteral("lmwidgets gallery"), HeadingLevel::Window));
     layout->addStretch();
-    layout->addWidget(new QLabel(QStringLiteral("Theme")));
+    layout->setSpacing(WindowMargin);
+    layout->addWidget(createDirectionSwitch());
+    layout->addWidget(createLanguageSwitch());
+    layout->addWidget(createScaleSwitch());
     layout->addWidget(createThemeSwitch());
     return header;
 }
@@ -108,15 +135,139 @@ QWidget *MainWindow::createThemeSwitch()
     return result;
 }
 
-void MainWindow::createPageList()
+QWidget *MainWindow::createLanguageSwitch()
 {
+    auto *box = new QComboBox;
+    box->setObjectName(QStringLiteral("galleryLanguage"));
+    box->setAccessibleName(QStringLiteral("Language"));
+    box->setToolTip(QStringLiteral("The language of the library's own texts"));
+    for (const QString &name : languageNames()) {
+        box->addItem(languageTitle(name), name);
+    }
+    box->setCurrentIndex(box->findData(currentLanguage()));
+    connect(box, QOverload<int>::of(&QComboBox::activated), this,
+            [box](int index) { setLanguage(box->itemData(index).toString()); });
+    return box;
+}
+
+QWidget *MainWindow::createDirectionSwitch()
+{
+    auto *box = check(QStringLiteral("Right to left"), QApplication::isRightToLeft(),
+                      [](bool checked) { setRightToLeft(checked); });
+    box->setObjectName(QStringLiteral("galleryDirection"));
+    return box;
+}
+
+QWidget *MainWindow::createScaleSwitch()
+{
+    auto *box = new QComboBox;
+    box->setObjectName(QStringLiteral("galleryScale"));
+    box->setAccessibleName(QStringLiteral("Scale"));
+    box->setToolTip(QStringLiteral("Opens the gallery anew, larger or smaller"));
+    for (const double scale : Scales) {
+        box->addItem(QStringLiteral("%1 %").arg(scale * 100), scale);
+    }
+    const int current = box->findData(currentScale());
+    box->setCurrentIndex(current);
+    connect(box, QOverload<int>::of(&QComboBox::activated), this, [this, box, current](int index) {
+        if (index != current) {
+            Q_EMIT scaleChosen(argumentsForScale(box->itemData(index).toDouble()));
+        }
+    });
+    return box;
+}
+
+QStringList MainWindow::argumentsForScale(double factor) const
+{
+    QStringList arguments = {QStringLiteral("--no-splash"),
+                             QStringLiteral("--scale"),
+                             QString::number(factor),
+                             QStringLiteral("--theme"),
+                             themeName(TalvoStyleManager::instance()->currentStyle()),
+                             QStringLiteral("--language"),
+                             currentLanguage(),
+                             QStringLiteral("--page"),
+                             pages().at(m_list->currentRow()).name()};
+    if (QApplication::isRightToLeft()) {
+        arguments.append(QStringLiteral("--rtl"));
+    }
+    return arguments;
+}
+
+QWidget *MainWindow::createCodePanel()
+{
+    m_code = new QLabel;
+    m_code->setObjectName(QStringLiteral("galleryCode"));
+    m_code->setTextFormat(Qt::PlainText);
+    m_code->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    m_code->setAlignment(Qt::AlignLeft | Qt::AlignTop | Qt::AlignAbsolute);
+    m_code->setMargin(CodeMargin);
+
+    auto *area = new QScrollArea;
+    area->setWidgetResizable(true);
+    area->setWidget(m_code);
+    // Code is written from left to right in every language.
+    area->setLayoutDirection(Qt::LeftToRight);
+    area->setObjectName(QStringLiteral("galleryFramed"));
+
+    auto *bar = new QHBoxLayout;
+    bar->addWidget(heading(QStringLiteral("Host code"), HeadingLevel::Section));
+    bar->addStretch();
+    bar->addWidget(button(QStringLiteral("Copy"),
+                          [this] { QApplication::clipboard()->setText(m_code->text()); }));
+
+    auto *panel = new QWidget;
+    auto *layout = new QVBoxLayout(panel);
+    layout->setContentsMargins(WindowMargin, CodeTopMargin, 0, 0);
+    layout->addLayout(bar);
+    layout->addWidget(area);
+    return panel;
+}
+
+QWidget *MainWindow::createPageColumn()
+{
+    m_search = new QLineEdit;
+    m_search->setObjectName(QStringLiteral("gallerySearch"));
+    m_search->setPlaceholderText(QStringLiteral("Search widgets"));
+    m_search->setClearButtonEnabled(true);
+    connect(m_search, &QLineEdit::textChanged, this, &MainWindow::search);
+
     m_list->setObjectName(QStringLiteral("galleryPageList"));
-    m_list->setFixedWidth(ListWidth);
     for (const Page &page : pages()) {
         auto *item = new QListWidgetItem(page.title(), m_list);
         item->setSizeHint(QSize(0, ListItemHeight));
     }
     connect(m_list, &QListWidget::currentRowChanged, this, &MainWindow::showRow);
+
+    auto *column = new QWidget;
+    column->setFixedWidth(ListWidth);
+    auto *layout = new QVBoxLayout(column);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_search);
+    layout->addWidget(m_list);
+    return column;
+}
+
+void MainWindow::search(const QString &text)
+{
+    const QStringList words = text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    int firstFound = -1;
+    for (int row = 0; row < pages().size(); ++row) {
+        const Page &page = pages().at(row);
+        const QString searched = page.title() + page.description() + hostCode(page.name());
+        const bool isFound =
+            std::all_of(words.begin(), words.end(), [&searched](const QString &word) {
+                return searched.contains(word, Qt::CaseInsensitive);
+            });
+        m_list->item(row)->setHidden(!isFound);
+        if (isFound && firstFound < 0) {
+            firstFound = row;
+        }
+    }
+    const QListWidgetItem *current = m_list->currentItem();
+    if (firstFound >= 0 && (!current || current->isHidden())) {
+        m_list->setCurrentRow(firstFound);
+    }
 }
 
 void MainWindow::showPage(const QString &name)
@@ -153,6 +304,7 @@ void MainWindow::showRow(int row)
 {
     if (row >= 0) {
         m_stack->setCurrentWidget(view(row));
+        m_code->setText(hostCode(pages().at(row).name()));
     }
 }
 

@@ -1,5 +1,6 @@
 #include "shooter.h"
 
+#include "language.h"
 #include "mainwindow.h"
 #include "page.h"
 #include "signallog.h"
@@ -202,6 +203,19 @@ bool shootWindow(const QString &prefix, Camera &camera)
     return camera.take(window, prefix + QLatin1String(WindowName));
 }
 
+/** Tells pictures of other languages and directions from those of English. */
+QString picturePrefix(const QString &theme)
+{
+    QString prefix = theme + QLatin1Char('-');
+    if (currentLanguage() != languageNames().first()) {
+        prefix += currentLanguage() + QLatin1Char('-');
+    }
+    if (QApplication::isRightToLeft()) {
+        prefix += QStringLiteral("rtl-");
+    }
+    return prefix;
+}
+
 } // namespace
 
 bool settle(QWidget *widget)
@@ -257,7 +271,7 @@ bool shoot(const QString &directory, const QStringList &themes, const QStringLis
     bool written = true;
     for (const QString &theme : themes) {
         TalvoStyleManager::instance()->shiftStyle(themeFromName(theme));
-        const QString prefix = theme + QLatin1Char('-');
+        const QString prefix = picturePrefix(theme);
         for (const QString &name : pageNames) {
             const Page *page = findPage(name);
             written =

@@ -26,7 +26,8 @@ QImage takePicture(QWidget *widget);
 
 /**
  * Takes pictures of the named pages and all their shots in each of the named themes, into files
- * `<theme>-<page>[-<shot>].png` in @p directory, which is created. Writes the path of each to @p
+ * `<theme>-<page>[-<shot>].png` in @p directory, which is created; in another language than
+ * English, or from right to left, `<theme>-[<language>-][rtl-]<page>[-<shot>].png`. Writes the path of each to @p
  * out, and what went wrong to @p err. Returns whether all of them were written. The theme is
  * afterwards as before.
  */

@@ -71,6 +71,8 @@ QString hostSheet(const HostColors &colors)
                           "QPushButton[galleryChoice=\"true\"]:checked "
                           "{ background-color: %2; border-color: %2; color: %3; }\n"
                           "QFrame#galleryFramed { border: 1px solid %4; }\n"
+                          "QLabel#galleryCode { font-family: \"DejaVu Sans Mono\", "
+                          "\"Consolas\", monospace; font-size: 12px; }\n"
                           "QListWidget#galleryPageList::item { padding-left: 10px; }\n"
                           "QTreeWidget#gallerySignals::item { padding-left: 5px; }\n")
         .arg(colors.quietText.name(), AccentColor.name(), OnAccentColor.name(), colors.line.name());

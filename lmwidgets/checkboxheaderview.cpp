@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QPixmap>
 #include <QPointer>
+#include <QStyle>
 
 namespace LM {
 namespace Widgets {
@@ -67,7 +68,9 @@ void CheckBoxHeaderView::paintSection(QPainter *painter, const QRect &rect, int 
     const QPixmap unselected(themePath + QStringLiteral("qssimage/unselected.png"));
     painter->save();
     painter->setRenderHint(QPainter::SmoothPixmapTransform);
-    painter->drawPixmap(QRect(m_position, m_size), m_checked ? selected : unselected);
+    const QRect box =
+        QStyle::visualRect(layoutDirection(), viewport()->rect(), QRect(m_position, m_size));
+    painter->drawPixmap(box, m_checked ? selected : unselected);
     painter->restore();
 }
 

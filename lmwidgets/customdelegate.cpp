@@ -28,7 +28,8 @@ void CustomDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option
     }
     QStyleOptionViewItem indented = option;
     initStyleOption(&indented, index);
-    indented.rect.moveLeft(indented.rect.left() + indentation);
+    const bool fromRight = option.direction == Qt::RightToLeft;
+    indented.rect.translate(fromRight ? -indentation : indentation, 0);
     QStyledItemDelegate::paint(painter, indented, index);
 }
 

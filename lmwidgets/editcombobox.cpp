@@ -383,7 +383,13 @@ void EditComboBoxPrivate::open(QCompleter *list)
         // The host took the completer away from the line edit, which leaves it without a place.
         list->setWidget(q);
     }
-    list->complete(q->rect());
+    QRect area = q->rect();
+    const QWidget *place = list->widget();
+    if (place->isRightToLeft()) {
+        // The completer puts the left edge of the list below the right edge of this rectangle then.
+        area.moveRight(place->mapFromGlobal(q->mapToGlobal(QPoint(0, 0))).x());
+    }
+    list->complete(area);
     // A completer that the host made complete inline has no popup.
     QAbstractItemView *popup = list->popup();
     if (popup && !popup->isVisible()) {

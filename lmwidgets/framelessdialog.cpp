@@ -99,12 +99,12 @@ void FramelessDialogPrivate::createBottomRow()
     applyButton->setProperty("vantorcancelbbutton", true);
     applyButton->hide();
 
-    setOwnText(okButton.data(),
-               [] { return QCoreApplication::translate("FramelessDialog", "OK"); });
-    setOwnText(cancelButton.data(),
-               [] { return QCoreApplication::translate("FramelessDialog", "Cancel"); });
-    setOwnText(applyButton.data(),
-               [] { return QCoreApplication::translate("FramelessDialog", "Apply"); });
+    setOwnCaption(okButton.data(),
+                  [] { return QCoreApplication::translate("FramelessDialog", "OK"); });
+    setOwnCaption(cancelButton.data(),
+                  [] { return QCoreApplication::translate("FramelessDialog", "Cancel"); });
+    setOwnCaption(applyButton.data(),
+                  [] { return QCoreApplication::translate("FramelessDialog", "Apply"); });
 
     bottomLayout->addWidget(cancelButton);
     bottomLayout->addWidget(applyButton);

@@ -3,6 +3,7 @@
  */
 
 #include "buttonstyles_p.h"
+#include "captionwidth_p.h"
 #include "framelessmessagebox_p.h"
 
 #include <lmwidgets/framelessmessagebox.h>
@@ -113,6 +114,8 @@ bool FramelessMessageBoxPrivate::setFixedCaption(QMessageBox::StandardButton whi
     setCaption(button, caption, FixedCaption);
     if (which == QMessageBox::Save) {
         button->setFixedWidth(QFontMetrics(QApplication::font()).horizontalAdvance(caption));
+    } else {
+        widenForCaption(button);
     }
     return true;
 }

@@ -1,5 +1,8 @@
 #include "owntext_p.h"
 
+#include "captionwidth_p.h"
+
+#include <QAbstractButton>
 #include <QEvent>
 #include <QHash>
 #include <QLatin1String>
@@ -85,6 +88,19 @@ void followLanguage(QObject *object, const char *key, const OwnText &text)
     if (LanguageFollower *follower = theFollower()) {
         follower->follow(object, key, text);
     }
+}
+
+void setOwnCaption(QAbstractButton *button, const std::function<QString()> &translated)
+{
+    button->setText(translated());
+    widenForCaption(button);
+    followLanguage(button, "text",
+                   {translated, [button](const QString &former, const QString &now) {
+                        if (button->text() == former) {
+                            button->setText(now);
+                            widenForCaption(button);
+                        }
+                    }});
 }
 
 } // namespace Widgets

@@ -6,6 +6,7 @@
 #include <functional>
 
 QT_BEGIN_NAMESPACE
+class QAbstractButton;
 class QObject;
 QT_END_NAMESPACE
 
@@ -46,6 +47,9 @@ void setOwnText(Widget *widget, const std::function<QString()> &translated)
                         }
                     }});
 }
+
+/** The same for a button of a dialog's row, which becomes wider where the caption needs it. */
+void setOwnCaption(QAbstractButton *button, const std::function<QString()> &translated);
 
 /** Gives @p dialog, a frame with a title bar of its own, a title that follows the language. */
 template <typename Frame>

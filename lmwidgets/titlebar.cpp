@@ -7,6 +7,7 @@
 
 #include <QAction>
 #include <QCoreApplication>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPixmap>
@@ -135,6 +136,27 @@ void TitleBarPrivate::layOut(TitleBar *titleBar)
     mainLayout->setContentsMargins(0, 11, 24, 11);
     mainLayout->setSpacing(0);
     titleBar->setLayout(mainLayout);
+    titleBar->installEventFilter(this);
+    mirrorMargins(titleBar);
+}
+
+/** Qt mirrors the order of a layout for languages that run from right to left, not its margins. */
+void TitleBarPrivate::mirrorMargins(const TitleBar *titleBar)
+{
+    if (titleBar->isRightToLeft() != isMirrored) {
+        isMirrored = !isMirrored;
+        const QMargins margins = mainLayout->contentsMargins();
+        mainLayout->setContentsMargins(margins.right(), margins.top(), margins.left(),
+                                       margins.bottom());
+    }
+}
+
+bool TitleBarPrivate::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::LayoutDirectionChange) {
+        mirrorMargins(static_cast<TitleBar *>(watched));
+    }
+    return false;
 }
 
 bool TitleBarPrivate::isButton(int type) const

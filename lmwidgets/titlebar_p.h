@@ -39,8 +39,13 @@ public:
     QHBoxLayout *topLayout = nullptr;
     QHBoxLayout *mainLayout = nullptr;
     QWidget *topLeftWidget = nullptr;
+    bool isMirrored = false;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void mirrorMargins(const TitleBar *titleBar);
     void createButtons(TitleBar *titleBar);
     void styleButtons();
 };

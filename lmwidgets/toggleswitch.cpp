@@ -92,7 +92,11 @@ void ToggleSwitch::change(bool on)
 void ToggleSwitch::mousePressEvent(QMouseEvent *event)
 {
     const QRectF live(HitLeft, TrackTop, TrackWidth, TrackHeight);
-    if (event->button() == Qt::LeftButton && live.contains(event->localPos())) {
+    QPointF position = event->localPos();
+    if (isRightToLeft()) {
+        position.setX(width() - position.x());
+    }
+    if (event->button() == Qt::LeftButton && live.contains(position)) {
         change(!m_checked);
     }
 }
@@ -114,18 +118,24 @@ void ToggleSwitch::paintEvent(QPaintEvent *event)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing, true);
 
+    // Where the language runs from right to left the whole switch is mirrored, the text excepted.
+    const auto mirrored = [this](const QRectF &area) {
+        return isRightToLeft()
+                   ? QRectF(width() - area.right(), area.top(), area.width(), area.height())
+                   : area;
+    };
     const QRectF track(TrackLeft, TrackTop, TrackWidth, TrackHeight);
     painter.setBrush(m_checked ? AccentColor : DarkColor);
     painter.setPen(QPen(AccentColor, RingWidth));
-    painter.drawRoundedRect(track, TrackRadius, TrackRadius);
+    painter.drawRoundedRect(mirrored(track), TrackRadius, TrackRadius);
 
     if (m_checked) {
         painter.setPen(Qt::NoPen);
     }
     painter.setBrush(DarkColor);
     const auto offset = static_cast<int>((track.width() - KnobSize - 2 * KnobInset) * m_position);
-    painter.drawEllipse(
-        QRectF(track.left() + KnobInset + offset, track.top() + KnobInset, KnobSize, KnobSize));
+    painter.drawEllipse(mirrored(
+        QRectF(track.left() + KnobInset + offset, track.top() + KnobInset, KnobSize, KnobSize)));
 
     // A painter takes from its widget's font what a font does not set itself, and the application's
     // sets nothing: the text would be drawn in another font than the one that it was measured in.
@@ -133,9 +143,11 @@ void ToggleSwitch::paintEvent(QPaintEvent *event)
     font.resolve(~0U);
     painter.setPen(Qt::white);
     painter.setFont(font);
-    painter.drawText(
-        QRectF(track.width() + TextGap, 0.0, width() - track.width() - TextRightGap, height()),
-        static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter), m_text);
+    // Absolute, as the painter has the direction of the application, not that of the widget.
+    const Qt::Alignment side = isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft;
+    painter.drawText(mirrored(QRectF(track.width() + TextGap, 0.0,
+                                     width() - track.width() - TextRightGap, height())),
+                     static_cast<int>(side | Qt::AlignAbsolute | Qt::AlignVCenter), m_text);
 }
 
 } // namespace Widgets

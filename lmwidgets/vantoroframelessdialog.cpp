@@ -110,7 +110,7 @@ void VantoroFramelessDialogPrivate::createBottomRow(QFrame *contentFrame)
     okButton = new QPushButton(bottomWidget);
     okButton->setDefault(true);
     applyButton = new QPushButton(bottomWidget);
-    setOwnText(applyButton.data(), [] { return tr("Apply"); });
+    setOwnCaption(applyButton.data(), [] { return tr("Apply"); });
     cancelButton = new QPushButton(bottomWidget);
     bottomLayout->addWidget(cancelButton);
     bottomLayout->addWidget(applyButton);
@@ -173,10 +173,10 @@ VantoroFramelessDialog::VantoroFramelessDialog(QWidget *parent, Qt::WindowFlags 
             &VantoroFramelessDialog::slotUIButtonCancel);
     connect(d->applyButton, &QPushButton::clicked, this,
             &VantoroFramelessDialog::slotUIButtonApply);
-    setOwnText(d->okButton.data(),
-               [] { return QCoreApplication::translate("vantorolframelessdialog", "OK"); });
-    setOwnText(d->cancelButton.data(),
-               [] { return QCoreApplication::translate("vantorolframelessdialog", "Cancel"); });
+    setOwnCaption(d->okButton.data(),
+                  [] { return QCoreApplication::translate("vantorolframelessdialog", "OK"); });
+    setOwnCaption(d->cancelButton.data(),
+                  [] { return QCoreApplication::translate("vantorolframelessdialog", "Cancel"); });
 }
 
 VantoroFramelessDialog::~VantoroFramelessDialog()
