@@ -260,7 +260,7 @@ void tst_RightToLeft::captionsFit()
         QCOMPARE(buttons[i]->minimumWidth(), english.at(i));
     }
     // Never less than what the button has anyway.
-    QCOMPARE(second.getOKButton()->minimumWidth(), 80);
+    QCOMPARE(second.getOKButton()->minimumWidth(), 85);
 }
 
 void tst_RightToLeft::captionWidthOfTheHostStays()
