@@ -14,6 +14,8 @@ set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+# Designer's plugin needs the library, which no installed package provides while both are made.
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS "${PROJECT_BINARY_DIR}/lmwidgets")
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 
@@ -31,12 +33,14 @@ set(CPACK_DEBIAN_DEV_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_DEV_PACKAGE_DEPENDS
     "${lmwidgets_runtime_package} (= ${PROJECT_VERSION}), qtbase5-dev (>= 5.14)"
 )
+set(CPACK_DEBIAN_DEV_PACKAGE_SUGGESTS qttools5-dev-tools) # has Qt Designer
 set(CPACK_DEBIAN_DEV_DESCRIPTION "Dialogs without a system frame that the mouse moves and resizes, a message
 box, file, progress and waiting dialogs in that frame, input widgets,
 containers, and the editors of a layer table.
 
 This package holds the headers, the package files for CMake and pkg-config,
-and the default theme that a host puts beside its executable.")
+the default theme that a host puts beside its executable, and the plugin
+that brings the widgets into Qt Designer.")
 
 # Debian wants to find in every package who made it and what changed.
 find_program(LMWIDGETS_GZIP gzip)

@@ -6,7 +6,9 @@ set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
 # What a build needs on Debian 12, and what the tests need on top of it.
-build_packages=(g++ cmake ninja-build qtbase5-dev qttools5-dev-tools fonts-dejavu-core)
+build_packages=(
+    g++ cmake ninja-build qtbase5-dev qttools5-dev qttools5-dev-tools fonts-dejavu-core
+)
 test_packages=(
     abigail-tools at-spi2-core binutils clang-format dbus dpkg-dev fakeroot file g++-mingw-w64-x86-64-posix
     libxfixes-dev lintian openbox pkgconf python3 wine wine64 x11-utils xdotool xvfb xz-utils

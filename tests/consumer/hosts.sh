@@ -29,3 +29,21 @@ host_through_pkg_config() {
     cp -R "$(pkg-config --variable=themedir lmwidgets)" "$3/theme"
     LD_LIBRARY_PATH=$(library_folder "$2") QT_QPA_PLATFORM=offscreen "$3/consumer"
 }
+
+# hosts_of_a_form <source> <prefix> <build> <library path>: hosts whose window was drawn in Designer. The
+# one that loads its window when it runs needs the plugin, which finds the library by itself or in the
+# library path.
+hosts_of_a_form() {
+    build_host "$1" "$2" "$3"
+    LD_LIBRARY_PATH=$(library_folder "$2") QT_QPA_PLATFORM=offscreen "$3/built"
+    plugins=$(dirname "$(dirname "$(find "$2" -name '*lmwidgets_designer.so')")")
+    LD_DEBUG=files LD_DEBUG_OUTPUT=$3/loading LD_LIBRARY_PATH=$4 QT_PLUGIN_PATH=$plugins \
+        QT_QPA_PLATFORM=offscreen "$3/loaded" "$1/../allwidgets.ui"
+    # This machine may have the library too; it is the one below the prefix that is tried here.
+    for name in liblmwidgets_designer.so liblmwidgets.so; do
+        grep -q "calling init: $2/.*$name" "$3"/loading.* || {
+            echo "$name was not loaded from $2"
+            return 1
+        }
+    done
+}
