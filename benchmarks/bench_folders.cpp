@@ -176,7 +176,7 @@ void findCompanion(const QString &folder)
     bench::printLine(operation + QStringLiteral(", QDir::entryList"),
                      bench::compare(ours, all, rounds), siblings, 0.4);
     bench::printLine(operation + QStringLiteral(", entryList with a name filter"),
-                     bench::compare(ours, filtered, rounds), siblings, 0.4);
+                     bench::compare(ours, filtered, rounds), siblings);
     bench::printLine(operation + QStringLiteral(", QDirIterator"),
                      bench::compare(ours, bare, rounds), siblings);
     runBesideFind(operation, ours,
