@@ -2,6 +2,7 @@
 
 #include "accessibleeditcombobox_p.h"
 #include "editcombobox_p.h"
+#include "themepictures_p.h"
 
 #include <lmwidgets/talvostylemanager.h>
 
@@ -152,8 +153,8 @@ void EditComboBoxPrivate::createButton()
 {
     dropDownButton = new QPushButton(q);
     dropDownButton->setFocusPolicy(Qt::NoFocus);
-    dropDownButton->setIcon(QIcon(TalvoStyleManager::instance()->currentThemePath() +
-                                  QLatin1String("qssimage/Dropdownbutton.png")));
+    dropDownButton->setIcon(keptIcon(TalvoStyleManager::instance()->currentThemePath() +
+                                     QLatin1String("qssimage/Dropdownbutton.png")));
     dropDownButton->setAccessibleName(EditComboBox::tr("Show all entries"));
     dropDownButton->setFixedSize(buttonSize);
     dropDownButton->setIconSize(buttonSize);

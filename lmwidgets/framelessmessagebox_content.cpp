@@ -6,6 +6,7 @@
 #include "detailbutton_p.h"
 #include "dropshadow_p.h"
 #include "framelessmessagebox_p.h"
+#include "themepictures_p.h"
 
 #include <lmwidgets/framelessmessagebox.h>
 #include <lmwidgets/titlebar.h>
@@ -360,7 +361,7 @@ QPixmap FramelessMessageBoxPrivate::standardIcon(QMessageBox::Icon which) const
             window = nativeParent->windowHandle();
         }
     }
-    return QIcon(QCoreApplication::applicationDirPath() + image)
+    return keptIcon(QCoreApplication::applicationDirPath() + image)
         .pixmap(window, QSize(IconExtent, IconExtent));
 }
 

@@ -3,6 +3,7 @@
 #include "drivelisting_p.h"
 #include "drivequestions_p.h"
 #include "folderreader_p.h"
+#include "themepictures_p.h"
 
 #include <lmwidgets/talvostylemanager.h>
 
@@ -502,9 +503,9 @@ bool TalvoBasicUtil::getPathWriteable(QString path)
 void TalvoBasicUtil::setActionIcon(QToolButton *button, const QString &normalIcon,
                                    const QString &hoverIcon, const QString &disabledIcon)
 {
-    QIcon icon(themeImage(normalIcon));
-    icon.addPixmap(QPixmap(themeImage(hoverIcon)), QIcon::Active, QIcon::Off);
-    icon.addPixmap(QPixmap(themeImage(disabledIcon)), QIcon::Disabled, QIcon::Off);
+    QIcon icon = LM::Widgets::keptIcon(themeImage(normalIcon));
+    icon.addPixmap(LM::Widgets::keptPixmap(themeImage(hoverIcon)), QIcon::Active, QIcon::Off);
+    icon.addPixmap(LM::Widgets::keptPixmap(themeImage(disabledIcon)), QIcon::Disabled, QIcon::Off);
     if (button) {
         button->setIcon(icon);
     }
