@@ -258,7 +258,6 @@ void FramelessMessageBoxPrivate::updateSize()
     }
     updateInformativeLabel();
     label->setWordWrap(true);
-    q->getMainLayout()->activate();
     label->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
 
     const int chrome = ChromeHeight + (checkbox ? CheckBoxExtraHeight : 0);
