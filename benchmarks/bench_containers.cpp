@@ -1,27 +1,24 @@
 /** @file
  * A settings panel of collapsible group boxes beside one of stock group boxes whose children are
- * hidden and shown, and the flow layout beside a stock grid of the same items.
+ * hidden and shown.
  */
 
 #include "bench.h"
 
 #include <lmwidgets/collapsiblegroupboxbasic.h>
-#include <lmwidgets/flowlayout.h>
 #include <lmwidgets/groupboxcollapsebutton.h>
 
 #include <QApplication>
-#include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QScrollArea>
 #include <QVBoxLayout>
 
-using LM::Widgets::FlowLayout;
-
 namespace {
 
 constexpr int childrenOfABox = 5;
+constexpr int goalCount = 100;
 constexpr int foldedRoom = 22; // px, about as high as a folded box of ours
 
 /** A column of boxes with labels in them, in a scroll area. */
@@ -123,20 +120,18 @@ void benchPanels()
 {
     QVector<bench::Point> growth;
     QVector<bench::Point> stockGrowth;
-    for (const int count : {100, 300, 1000}) {
+    for (const int count : {goalCount, 300, 1000}) {
         OurPanel ours(count);
         StockPanel stock(count);
         const bench::Comparison comparison =
             bench::compare(foldAndOpen(&ours), foldAndOpen(&stock), 5);
         bench::printLine(QStringLiteral("%1 boxes: fold and open the group, per box").arg(count),
-                         comparison, count);
+                         comparison, count, count == goalCount ? 4.0 : 0.0);
         growth.append({double(count), comparison.ours});
         stockGrowth.append({double(count), comparison.stock});
     }
     bench::printGrowth(QStringLiteral("boxes: growth from 100 to 1000"),
-                       bench::growthExponent(growth), 1.0);
-    bench::printGrowth(QStringLiteral("stock boxes: growth from 100 to 1000"),
-                       bench::growthExponent(stockGrowth));
+                       bench::growthExponent(growth), 0.0, bench::growthExponent(stockGrowth));
 }
 
 /** One box of a long panel by its arrow, beside the same with stock boxes. */
@@ -162,128 +157,15 @@ void benchOneBox()
                      bench::compare(toggleFirst, toggleFirstStock), repetitions);
 }
 
-/** A window of tags with a layout of the kind @p Layout. */
-template <typename Layout>
-class Tags
-{
-public:
-    Tags(Layout *layout, int count) : m_layout(layout)
-    {
-        for (int i = 0; i < count; ++i) {
-            // As many different widths as a real set of tags has.
-            auto *tag = new QWidget;
-            tag->setMinimumSize(20 + i * 7 % 40, 16);
-            m_layout->addWidget(tag);
-        }
-        m_window.setLayout(m_layout);
-        // Offscreen windows may be as large as they like; no row is cut off.
-        m_window.resize(640, 480);
-    }
-
-    void show()
-    {
-        m_window.show();
-        QCoreApplication::processEvents();
-    }
-
-    /** What a parent does that has found out that an item changed. */
-    void layOut(int width)
-    {
-        m_layout->invalidate();
-        place(width);
-    }
-    /** What a parent does that is resized. */
-    void place(int width)
-    {
-        const int height = m_layout->hasHeightForWidth() ? m_layout->heightForWidth(width)
-                                                         : m_layout->sizeHint().height();
-        m_layout->setGeometry(QRect(0, 0, width, height));
-    }
-    void resize(int width)
-    {
-        m_window.resize(width, 480);
-        QCoreApplication::processEvents();
-    }
-
-private:
-    QWidget m_window;
-    Layout *m_layout;
-};
-
-/** The stock layout that is nearest to rows of tags: a grid that is filled row by row, narrow
- * enough for all widths here. */
-class Grid : public QGridLayout
-{
-public:
-    Grid()
-    {
-        setContentsMargins(0, 0, 0, 0);
-        setSpacing(6);
-        setDefaultPositioning(7, Qt::Horizontal);
-    }
-};
-
-template <typename Window>
-bench::Work layOuts(Window *window, int repetitions, void (Window::*function)(int))
-{
-    return [=](int round) {
-        for (int i = 0; i < repetitions; ++i) {
-            (window->*function)(500 + (i * 13 + round) % 200);
-        }
-    };
-}
-
-void benchFlow()
-{
-    constexpr int most = 10000;
-    constexpr int resizes = 200;
-    QVector<bench::Point> growth;
-    QVector<bench::Point> stockGrowth;
-    for (const int count : {10, 1000, most}) {
-        using Flow = Tags<FlowLayout>;
-        using Stock = Tags<QGridLayout>;
-        Flow ours(new FlowLayout(0, 6, 6), count);
-        Stock stock(new Grid, count);
-        const int repetitions = most / count;
-        const bench::Comparison changed =
-            bench::compare(layOuts(&ours, repetitions, &Flow::layOut),
-                           layOuts(&stock, repetitions, &Stock::layOut), 9);
-        bench::printLine(QStringLiteral("%1 tags: lay out after a change").arg(count), changed,
-                         repetitions);
-        bench::printLine(QStringLiteral("%1 tags: lay out in another width").arg(count),
-                         bench::compare(layOuts(&ours, repetitions, &Flow::place),
-                                        layOuts(&stock, repetitions, &Stock::place), 9),
-                         repetitions);
-        growth.append({double(count), changed.ours / repetitions});
-        stockGrowth.append({double(count), changed.stock / repetitions});
-    }
-    bench::printGrowth(QStringLiteral("tags: growth from 10 to 10000"),
-                       bench::growthExponent(growth), 1.0);
-    bench::printGrowth(QStringLiteral("stock grid: growth from 10 to 10000"),
-                       bench::growthExponent(stockGrowth));
-
-    using Flow = Tags<FlowLayout>;
-    using Stock = Tags<QGridLayout>;
-    Flow ours(new FlowLayout(0, 6, 6), 1000);
-    Stock stock(new Grid, 1000);
-    ours.show();
-    stock.show();
-    bench::printLine(QStringLiteral("1000 tags: a storm of 200 resizes, per resize"),
-                     bench::compare(layOuts(&ours, resizes, &Flow::resize),
-                                    layOuts(&stock, resizes, &Stock::resize), 5),
-                     resizes);
-}
-
 } // namespace
 
 int main(int argc, char **argv)
 {
-    bench::prepareEnvironment();
+    bench::prepareEnvironment(argc, argv);
     QApplication application(argc, argv);
     bench::prepareApplication();
     bench::printHead();
     benchOneBox();
     benchPanels();
-    benchFlow();
     return 0;
 }

@@ -1,13 +1,6 @@
 /** @file
- * Times the layer list beside a plain QTableWidget with five QToolButtons in each row.
- *
- * The plain table comes in two kinds: with the layer list's style sheet on each button, and without
- * any style sheet. All tables are visible and of the same size. Figures are the CPU time of this
- * process; the kinds take turns, and the median of the rounds counts.
- *
- *     bench_layertable [--all]
- *
- * With --all, the plain tables are filled with 10,000 rows as well, which takes minutes.
+ * The layer list beside a plain QTableWidget with the same five tool buttons and icons in each row,
+ * without any style sheet. Both tables are visible and of the same size.
  */
 
 #include "bench.h"
@@ -19,12 +12,8 @@
 #include <QHeaderView>
 #include <QScrollBar>
 #include <QTableWidget>
-#include <QTextStream>
 #include <QToolButton>
-#include <QVector>
 
-#include <cmath>
-#include <functional>
 #include <memory>
 
 namespace {
@@ -32,13 +21,10 @@ namespace {
 using LM::Widgets::CustomLayerTableWidget;
 using LM::Widgets::TalvoStyleManager;
 
-enum Kind { Layers, Plain, PlainStyled, KindCount };
-const char *const kindNames[KindCount] = {"layer list", "plain", "plain, styled"};
-
-double cpuMilliseconds()
-{
-    return 1000.0 * bench::cpuSeconds();
-}
+constexpr int columns = 6;
+constexpr int scrollSteps = 50;
+constexpr int repaints = 20;
+constexpr int additions = 5;
 
 void settle()
 {
@@ -48,224 +34,194 @@ void settle()
     }
 }
 
-void setUpPlain(QTableWidget *table)
+/** The layer list. */
+class Ours
 {
-    table->setColumnCount(6);
-    table->horizontalHeader()->setMinimumSectionSize(20);
-    for (int column = 1; column < 6; ++column) {
-        table->setColumnWidth(column, 20);
-    }
-    table->horizontalHeader()->hide();
-    table->verticalHeader()->hide();
-    table->setShowGrid(false);
-    table->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
-    table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    table->setSelectionMode(QAbstractItemView::SingleSelection);
-}
+public:
+    Ours() { m_table.creatUiType(CustomLayerTableWidget::LAYER_LIST); }
+    QTableWidget *table() { return &m_table; }
+    void addRow() { m_table.addLayerRow(); }
 
-void addPlainRow(QTableWidget *table, bool styled)
+private:
+    CustomLayerTableWidget m_table;
+};
+
+/** What a host would write without it. */
+class Stock
 {
-    static const char *const images[] = {"delete_2dvec", "layer_edit", "layer_lock", "layer_view"};
-    const int row = table->rowCount();
-    table->insertRow(row);
-    table->setRowHeight(row, 32);
-    table->setItem(row, 0, new QTableWidgetItem(QStringLiteral("layer%1").arg(row)));
-    for (int column = 1; column < 6; ++column) {
-        auto *button = new QToolButton(table);
-        button->setCheckable(true);
-        button->setChecked(true);
-        button->setIconSize(QSize(20, 20));
-        if (styled) {
-            button->setStyleSheet(
-                QStringLiteral("background-color: transparent;border: 0px solid #3C3C3C; "));
+public:
+    Stock()
+    {
+        m_table.setColumnCount(columns);
+        m_table.horizontalHeader()->setMinimumSectionSize(20);
+        for (int column = 1; column < columns; ++column) {
+            m_table.setColumnWidth(column, 20);
         }
-        if (column < 5) {
-            button->setIcon(QIcon(TalvoStyleManager::instance()->currentThemePath() +
-                                  QLatin1String("qssimage/") + QLatin1String(images[column - 1]) +
-                                  QLatin1String(".png")));
-        } else {
-            QPixmap swatch(20, 20);
-            swatch.fill(Qt::white);
-            button->setIcon(QIcon(swatch));
-        }
-        QObject::connect(button, &QToolButton::clicked, table, [row] { Q_UNUSED(row) });
-        table->setCellWidget(row, column, button);
+        m_table.horizontalHeader()->hide();
+        m_table.verticalHeader()->hide();
+        m_table.setShowGrid(false);
+        m_table.horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
+        m_table.setSelectionBehavior(QAbstractItemView::SelectRows);
+        m_table.setSelectionMode(QAbstractItemView::SingleSelection);
     }
-}
 
-std::unique_ptr<QTableWidget> visibleTable(Kind kind)
-{
-    std::unique_ptr<QTableWidget> table;
-    if (kind == Layers) {
-        auto layers = std::make_unique<CustomLayerTableWidget>();
-        layers->creatUiType(CustomLayerTableWidget::LAYER_LIST);
-        table = std::move(layers);
-    } else {
-        table = std::make_unique<QTableWidget>();
-        setUpPlain(table.get());
-    }
-    table->resize(400, 600);
-    table->show();
-    settle();
-    return table;
-}
+    QTableWidget *table() { return &m_table; }
 
-void addRows(Kind kind, QTableWidget *table, int count)
-{
-    for (int i = 0; i < count; ++i) {
-        if (kind == Layers) {
-            static_cast<CustomLayerTableWidget *>(table)->addLayerRow();
-        } else {
-            addPlainRow(table, kind == PlainStyled);
+    void addRow()
+    {
+        const int row = m_table.rowCount();
+        m_table.insertRow(row);
+        m_table.setRowHeight(row, 32);
+        m_table.setItem(row, 0, new QTableWidgetItem(QStringLiteral("layer%1").arg(row)));
+        for (int column = 1; column < columns; ++column) {
+            auto *button = new QToolButton(&m_table);
+            button->setCheckable(true);
+            button->setChecked(true);
+            button->setIconSize(QSize(20, 20));
+            button->setIcon(icon(column));
+            QObject::connect(button, &QToolButton::clicked, &m_table, [row] { Q_UNUSED(row) });
+            m_table.setCellWidget(row, column, button);
         }
     }
-}
 
-/** From the first row until the filled table is on the screen. */
-double addingTime(Kind kind, int rows)
-{
-    const auto table = visibleTable(kind);
-    const double start = cpuMilliseconds();
-    addRows(kind, table.get(), rows);
-    settle();
-    return cpuMilliseconds() - start;
-}
+private:
+    static QIcon icon(int column)
+    {
+        static const char *const images[] = {"delete_2dvec", "layer_edit", "layer_lock",
+                                             "layer_view"};
+        if (column < columns - 1) {
+            return QIcon(TalvoStyleManager::instance()->currentThemePath() +
+                         QLatin1String("qssimage/") + QLatin1String(images[column - 1]) +
+                         QLatin1String(".png"));
+        }
+        QPixmap swatch(20, 20);
+        swatch.fill(Qt::white);
+        return QIcon(swatch);
+    }
 
-/** A visible table with @p rows rows that stands on the screen. */
-std::unique_ptr<QTableWidget> filledTable(Kind kind, int rows)
-{
-    auto table = visibleTable(kind);
-    addRows(kind, table.get(), rows);
-    settle();
-    return table;
-}
+    QTableWidget m_table;
+};
 
-/** One more row, until it is on the screen. */
-double oneMoreTime(Kind kind, QTableWidget *table)
+/** A visible table of the kind @p Kind, to which rows are added. */
+template <typename Kind>
+class Stage
 {
-    constexpr int Repetitions = 5;
-    const double start = cpuMilliseconds();
-    for (int i = 0; i < Repetitions; ++i) {
-        addRows(kind, table, 1);
+public:
+    /** Begins anew with an empty table. */
+    void begin()
+    {
+        m_kind.reset();
+        m_kind = std::make_unique<Kind>();
+        m_kind->table()->resize(400, 600);
+        m_kind->table()->show();
         settle();
     }
-    return (cpuMilliseconds() - start) / Repetitions;
-}
 
-double scrollTime(Kind kind, QTableWidget *table)
-{
-    Q_UNUSED(kind)
-    constexpr int Steps = 50;
-    QScrollBar *bar = table->verticalScrollBar();
-    bar->setValue(0);
-    settle();
-    const double start = cpuMilliseconds();
-    for (int i = 1; i <= Steps; ++i) {
-        bar->setValue(int(double(bar->maximum()) * i / Steps));
+    void fill(int rows)
+    {
+        for (int i = 0; i < rows; ++i) {
+            m_kind->addRow();
+        }
         settle();
     }
-    return (cpuMilliseconds() - start) / Steps;
-}
 
-/** Paints all that can be seen. */
-double repaintTime(Kind kind, QTableWidget *table)
-{
-    Q_UNUSED(kind)
-    constexpr int Repetitions = 20;
-    const double start = cpuMilliseconds();
-    for (int i = 0; i < Repetitions; ++i) {
-        table->viewport()->update();
+    void addOneByOne()
+    {
+        for (int i = 0; i < additions; ++i) {
+            fill(1);
+        }
+    }
+
+    void goToTop()
+    {
+        m_kind->table()->verticalScrollBar()->setValue(0);
         settle();
     }
-    return (cpuMilliseconds() - start) / Repetitions;
+
+    void scroll()
+    {
+        QScrollBar *bar = m_kind->table()->verticalScrollBar();
+        for (int i = 1; i <= scrollSteps; ++i) {
+            bar->setValue(static_cast<int>(double(bar->maximum()) * i / scrollSteps));
+            settle();
+        }
+    }
+
+    void repaint()
+    {
+        for (int i = 0; i < repaints; ++i) {
+            m_kind->table()->viewport()->update();
+            settle();
+        }
+    }
+
+    /** Begins anew before each round and adds @p rows rows in it. */
+    bench::Side filling(int rows)
+    {
+        return {[this, rows](int) { fill(rows); }, [this](int) { begin(); }};
+    }
+
+private:
+    std::unique_ptr<Kind> m_kind;
+};
+
+void benchAdding()
+{
+    Stage<Ours> ours;
+    Stage<Stock> stock;
+    const bench::Comparison hundred = bench::compare(ours.filling(100), stock.filling(100));
+    bench::printLine(QStringLiteral("layer table: add 100 rows"), hundred, 1, 0.9);
+    if (bench::isCounting()) {
+        return; // the stock table takes half an hour for the next one then
+    }
+    const bench::Comparison thousand = bench::compare(ours.filling(1000), stock.filling(1000), 3);
+    bench::printLine(QStringLiteral("layer table: add 1,000 rows"), thousand, 1, 0.3);
+
+    ours.begin();
+    const double tenThousand = bench::cost([&ours](int) { ours.fill(10000); }, 1);
+    bench::printGrowth(QStringLiteral("layer table: growth of adding, 100 to 1,000"),
+                       bench::growthExponent({{100, hundred.ours}, {1000, thousand.ours}}), 1.15,
+                       bench::growthExponent({{100, hundred.stock}, {1000, thousand.stock}}));
+    bench::printGrowth(QStringLiteral("layer table: growth of adding, 1,000 to 10,000"),
+                       bench::growthExponent({{1000, thousand.ours}, {10000, tenThousand}}), 1.3);
 }
 
-using Times = QVector<double>; // one for each kind; 0 if it was left out
-
-Times compare(const std::function<double(Kind)> &measure, int rounds, int kinds = KindCount)
+void benchUsing(int rows, double goal)
 {
-    QVector<QVector<double>> all(KindCount);
-    for (int round = 0; round <= rounds; ++round) {
-        for (int kind = 0; kind < kinds; ++kind) {
-            const double time = measure(Kind(kind));
-            if (round > 0 || rounds == 1) { // the first round warms the caches
-                all[kind].append(time);
-            }
-        }
-        if (rounds == 1) {
-            break;
-        }
-    }
-    Times result(KindCount);
-    for (int kind = 0; kind < kinds; ++kind) {
-        result[kind] = bench::median(all.at(kind));
-    }
-    return result;
-}
-
-void print(QTextStream &out, const QString &what, const Times &times)
-{
-    out << what.leftJustified(34);
-    for (int kind = 0; kind < KindCount; ++kind) {
-        const QString time =
-            times.at(kind) > 0 ? QString::number(times.at(kind), 'f', 3) : QStringLiteral("-");
-        out << kindNames[kind] << ' ' << time << " ms  ";
-    }
-    for (int kind = Plain; kind < KindCount; ++kind) {
-        if (times.at(kind) > 0) {
-            out << "ratio to " << kindNames[kind] << ' '
-                << QString::number(times.at(Layers) / times.at(kind), 'f', 2) << "  ";
-        }
-    }
-    out << '\n';
-    out.flush();
-}
-
-void printGrowth(QTextStream &out, const QString &what, const Times &less, const Times &more)
-{
-    out << what.leftJustified(34);
-    for (int kind = 0; kind < KindCount; ++kind) {
-        if (more.at(kind) > 0) {
-            out << kindNames[kind] << ' '
-                << QString::number(std::log10(more.at(kind) / less.at(kind)), 'f', 2) << "  ";
-        }
-    }
-    out << '\n';
-    out.flush();
+    Stage<Ours> ours;
+    Stage<Stock> stock;
+    ours.begin();
+    ours.fill(rows);
+    stock.begin();
+    stock.fill(rows);
+    bench::printLine(
+        QStringLiteral("layer table: scroll a step through %1 rows").arg(rows),
+        bench::compare(
+            bench::Side{[&ours](int) { ours.scroll(); }, [&ours](int) { ours.goToTop(); }},
+            bench::Side{[&stock](int) { stock.scroll(); }, [&stock](int) { stock.goToTop(); }}, 7),
+        scrollSteps, goal);
+    bench::printLine(
+        QStringLiteral("layer table: repaint with %1 rows").arg(rows),
+        bench::compare([&ours](int) { ours.repaint(); }, [&stock](int) { stock.repaint(); }, 9),
+        repaints, goal);
+    bench::printLine(QStringLiteral("layer table: one more row after %1").arg(rows),
+                     bench::compare([&ours](int) { ours.addOneByOne(); },
+                                    [&stock](int) { stock.addOneByOne(); }, 7),
+                     additions);
 }
 
 } // namespace
 
 int main(int argc, char **argv)
 {
-    bench::prepareEnvironment();
+    bench::prepareEnvironment(argc, argv);
     QApplication application(argc, argv);
     bench::prepareApplication();
-    const bool all = application.arguments().contains(QStringLiteral("--all"));
-    QTextStream out(stdout);
-
-    const Times hundred = compare([](Kind kind) { return addingTime(kind, 100); }, 15);
-    print(out, QStringLiteral("add 100 rows"), hundred);
-    const Times thousand = compare([](Kind kind) { return addingTime(kind, 1000); }, 3);
-    print(out, QStringLiteral("add 1,000 rows"), thousand);
-    const Times tenThousand =
-        compare([](Kind kind) { return addingTime(kind, 10000); }, 1, all ? KindCount : Plain);
-    print(out, QStringLiteral("add 10,000 rows"), tenThousand);
-    printGrowth(out, QStringLiteral("growth exponent 100 to 1,000"), hundred, thousand);
-    printGrowth(out, QStringLiteral("growth exponent 1,000 to 10,000"), thousand, tenThousand);
-
-    for (const int rows : {100, 1000}) {
-        std::unique_ptr<QTableWidget> tables[KindCount];
-        for (int kind = 0; kind < KindCount; ++kind) {
-            tables[kind] = filledTable(Kind(kind), rows);
-        }
-        const auto measureWith = [&tables](double (*time)(Kind, QTableWidget *)) {
-            return compare([&](Kind kind) { return time(kind, tables[kind].get()); }, 7);
-        };
-        print(out, QStringLiteral("scroll a step through %1 rows").arg(rows),
-              measureWith(scrollTime));
-        print(out, QStringLiteral("repaint with %1 rows").arg(rows), measureWith(repaintTime));
-        print(out, QStringLiteral("one more row after %1").arg(rows), measureWith(oneMoreTime));
+    bench::printHead();
+    benchAdding();
+    benchUsing(100, 0.0);
+    if (!bench::isCounting()) {
+        benchUsing(1000, 1.3);
     }
     return 0;
 }

@@ -76,7 +76,7 @@ bench::Work storm(Stage<Box> *stage, int (*width)(int, int))
 
 int main(int argc, char **argv)
 {
-    bench::prepareEnvironment();
+    bench::prepareEnvironment(argc, argv);
     QApplication application(argc, argv);
     bench::prepareApplication();
 

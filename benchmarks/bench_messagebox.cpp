@@ -76,10 +76,9 @@ bench::Work repaints(Box *box)
 
 int main(int argc, char **argv)
 {
-    bench::prepareEnvironment();
+    bench::prepareEnvironment(argc, argv);
     QApplication application(argc, argv);
     bench::prepareApplication();
-    QApplication::setQuitOnLastWindowClosed(false);
 
     const auto model = makeOurs();
     model->show();

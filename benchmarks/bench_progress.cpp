@@ -69,7 +69,7 @@ void print(const char *operation, Qt::WindowModality modality, double goal)
 
 int main(int argc, char **argv)
 {
-    bench::prepareEnvironment();
+    bench::prepareEnvironment(argc, argv);
     QApplication application(argc, argv);
     bench::prepareApplication();
     bench::printHead();

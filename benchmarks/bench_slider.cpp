@@ -29,7 +29,7 @@ bench::Work repaintsOf(QWidget *slider, QImage *target)
 
 int main(int argc, char **argv)
 {
-    bench::prepareEnvironment();
+    bench::prepareEnvironment(argc, argv);
     QApplication application(argc, argv);
     bench::prepareApplication();
 
@@ -47,6 +47,6 @@ int main(int argc, char **argv)
     bench::printHead();
     bench::printLine(QStringLiteral("slider: one repaint"),
                      bench::compare(repaintsOf(&ours, &target), repaintsOf(&stock, &target)),
-                     repaints);
+                     repaints, 3.0, bench::GoalOf::Instructions);
     return 0;
 }

@@ -37,7 +37,7 @@ void showChecked(Control *control, bool checked)
 
 int main(int argc, char **argv)
 {
-    bench::prepareEnvironment();
+    bench::prepareEnvironment(argc, argv);
     QApplication application(argc, argv);
     bench::prepareApplication();
 
@@ -57,10 +57,10 @@ int main(int argc, char **argv)
         const QString state = checked ? QStringLiteral("on") : QStringLiteral("off");
         bench::printLine(QStringLiteral("toggle switch, %1: one repaint").arg(state),
                          bench::compare(repaintsOf(&toggle, &target), repaintsOf(&stock, &target)),
-                         repaints);
+                         repaints, 2.0, bench::GoalOf::Instructions);
         bench::printLine(QStringLiteral("round check box, %1: one repaint").arg(state),
                          bench::compare(repaintsOf(&round, &target), repaintsOf(&stock, &target)),
-                         repaints);
+                         repaints, 2.0, bench::GoalOf::Instructions);
     }
     return 0;
 }

@@ -1,5 +1,7 @@
 #include <lmwidgets/checkboxheaderview.h>
 
+#include "themepictures_p.h"
+
 #include <lmwidgets/talvostylemanager.h>
 
 #include <QMouseEvent>
@@ -62,10 +64,10 @@ void CheckBoxHeaderView::paintSection(QPainter *painter, const QRect &rect, int 
     if (logicalIndex != m_checkColumn || m_size.isEmpty()) {
         return;
     }
-    // Read on every paint, so that the picture follows a theme switch; QPixmap keeps decoded files.
+    // Asked for on every paint, so that the picture follows a theme switch.
     const QString themePath = TalvoStyleManager::instance()->currentThemePath();
-    const QPixmap selected(themePath + QStringLiteral("qssimage/selected.png"));
-    const QPixmap unselected(themePath + QStringLiteral("qssimage/unselected.png"));
+    const QPixmap selected = keptPixmap(themePath + QStringLiteral("qssimage/selected.png"));
+    const QPixmap unselected = keptPixmap(themePath + QStringLiteral("qssimage/unselected.png"));
     painter->save();
     painter->setRenderHint(QPainter::SmoothPixmapTransform);
     const QRect box =

@@ -1,15 +1,12 @@
 #include <lmwidgets/customlayertoolbutton.h>
 
+#include "themepictures_p.h"
 #include "toolbuttonrelease_p.h"
 
 #include <lmwidgets/talvostylemanager.h>
 
 #include <QColor>
-#include <QDateTime>
 #include <QEvent>
-#include <QFileInfo>
-#include <QGuiApplication>
-#include <QHash>
 #include <QIcon>
 #include <QPixmap>
 
@@ -23,47 +20,11 @@ constexpr QSize PictureSize(20, 20);
 // The blank at the end belongs to the text: hosts compare it as it is.
 const char ButtonStyle[] = "background-color: transparent;border: 0px solid #3C3C3C; ";
 
-/** An icon and what its file looked like when it was read. */
-struct IconFile
-{
-    QDateTime modified;
-    qint64 size = -1;
-    qreal pixelRatio = 0.0; // decides whether the file for double resolution was looked for
-    QIcon icon;
-};
-
-using IconFiles = QHash<QString, IconFile>;
-Q_GLOBAL_STATIC(IconFiles, iconFiles)
-
-// The pictures must not outlive the application.
-void forgetIcons()
-{
-    if (!iconFiles.isDestroyed()) {
-        iconFiles->clear();
-    }
-}
-
-/**
- * Returns the picture @p name of the current theme. All buttons with one picture share its icon, so
- * that a list of thousands of layers reads and keeps it once; a file that has changed is read
- * again.
- */
+/** Returns the picture @p name of the current theme. */
 QIcon themeIcon(const char *name)
 {
-    const QString path = TalvoStyleManager::instance()->currentThemePath() +
-                         QLatin1String("qssimage/") + QLatin1String(name) + QLatin1String(".png");
-    if (iconFiles->isEmpty()) {
-        qAddPostRoutine(forgetIcons);
-    }
-    IconFile &file = (*iconFiles)[path];
-    const QFileInfo info(path);
-    const QDateTime modified = info.lastModified();
-    const qreal pixelRatio = qApp->devicePixelRatio();
-    if (file.icon.isNull() || file.size != info.size() || file.modified != modified ||
-        file.pixelRatio < pixelRatio) {
-        file = {modified, info.size(), pixelRatio, QIcon(path)};
-    }
-    return file.icon;
+    return keptIcon(TalvoStyleManager::instance()->currentThemePath() + QLatin1String("qssimage/") +
+                    QLatin1String(name) + QLatin1String(".png"));
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "accessibleeditcombobox_p.h"
 #include "editcombobox_p.h"
 #include "owntext_p.h"
+#include "themepictures_p.h"
 
 #include <lmwidgets/talvostylemanager.h>
 
@@ -153,8 +154,8 @@ void EditComboBoxPrivate::createButton()
 {
     dropDownButton = new QPushButton(q);
     dropDownButton->setFocusPolicy(Qt::NoFocus);
-    dropDownButton->setIcon(QIcon(TalvoStyleManager::instance()->currentThemePath() +
-                                  QLatin1String("qssimage/Dropdownbutton.png")));
+    dropDownButton->setIcon(keptIcon(TalvoStyleManager::instance()->currentThemePath() +
+                                     QLatin1String("qssimage/Dropdownbutton.png")));
     setOwnAccessibleName(dropDownButton, [] { return EditComboBox::tr("Show all entries"); });
     dropDownButton->setFixedSize(buttonSize);
     dropDownButton->setIconSize(buttonSize);

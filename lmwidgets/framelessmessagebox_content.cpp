@@ -6,6 +6,7 @@
 #include "detailbutton_p.h"
 #include "dropshadow_p.h"
 #include "framelessmessagebox_p.h"
+#include "themepictures_p.h"
 
 #include <lmwidgets/framelessmessagebox.h>
 #include <lmwidgets/titlebar.h>
@@ -257,7 +258,6 @@ void FramelessMessageBoxPrivate::updateSize()
     }
     updateInformativeLabel();
     label->setWordWrap(true);
-    q->getMainLayout()->activate();
     label->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
 
     const int chrome = ChromeHeight + (checkbox ? CheckBoxExtraHeight : 0);
@@ -360,7 +360,7 @@ QPixmap FramelessMessageBoxPrivate::standardIcon(QMessageBox::Icon which) const
             window = nativeParent->windowHandle();
         }
     }
-    return QIcon(QCoreApplication::applicationDirPath() + image)
+    return keptIcon(QCoreApplication::applicationDirPath() + image)
         .pixmap(window, QSize(IconExtent, IconExtent));
 }
 

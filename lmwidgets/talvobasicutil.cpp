@@ -2,6 +2,8 @@
 
 #include "drivelisting_p.h"
 #include "drivequestions_p.h"
+#include "folderreader_p.h"
+#include "themepictures_p.h"
 
 #include <lmwidgets/talvostylemanager.h>
 
@@ -21,6 +23,7 @@
 #include <QToolButton>
 #include <QVector>
 
+using LM::Widgets::FolderReader;
 using LM::Widgets::ListedDrive;
 using LM::Widgets::TalvoStyleManager;
 
@@ -35,11 +38,13 @@ const QString ProjectDataFolder = QStringLiteral("kvdprojectdata");
 const QString ConfigDataFolder = QStringLiteral("configdatadecodetemp");
 const QString ProjectFile = QStringLiteral("\\project.Kvdm");
 const QString ProbeFile = QStringLiteral("KVPointCloudUtiltest.txt");
-const QString CompanionSuffix = QStringLiteral(".kvdata");
 const QString CompanionInfix = QStringLiteral(".info");
 const QString ValidSheet = QStringLiteral("border:1px solid #666666;");
 const QString InvalidSheet = QStringLiteral("border:1px solid #ff0000;");
 
+constexpr char CompanionSuffix[] = ".kvdata";
+
+constexpr int UsualNameLength = 24;
 constexpr int NoTimeLimit = -1;
 constexpr int PowerShellLimit = 30000; // ms
 
@@ -196,29 +201,64 @@ void removeFolder(const QString &path)
     }
 }
 
+/** An entry of a folder that is dealt with later. */
+struct KeptEntry
+{
+    QString name;
+    FolderReader::Kind kind;
+};
+
 /** A folder of which a listing is under way. */
 struct OpenFolder
 {
-    QFileInfoList rest;    ///< the entries that are still to come, from index next on
-    int next = 0;          ///< the first of them
-    QString canonicalPath; ///< tells folders apart, whichever way leads there
+    QString path;
+    QString canonicalPath;   ///< tells folders apart, whichever way leads there
+    QVector<KeptEntry> rest; ///< the entries that are still to come, from index next on
+    int next = 0;            ///< the first of them
 };
 
+QString pathIn(const QString &folder, const QString &name)
+{
+    return folder.endsWith(QLatin1Char('/')) ? folder + name : folder + QLatin1Char('/') + name;
+}
+
+bool isFile(FolderReader::Kind kind)
+{
+    return kind == FolderReader::File || kind == FolderReader::LinkToFile;
+}
+
+bool isFolder(FolderReader::Kind kind)
+{
+    return kind == FolderReader::Folder || kind == FolderReader::LinkToFolder;
+}
+
 /**
- * Opens the folder of @p entries: the files up to its first folder go to @p files, the other entries
- * are kept. So a folder of files only keeps nothing, and no folder stays open below another.
+ * Opens the folder @p path: the files up to its first folder go to @p files, the other entries are
+ * kept. So a folder of files only keeps nothing, and no folder stays open below another. Of the
+ * entries those count that a listing without hidden entries shows and that match @p nameFilters.
  */
-OpenFolder openFolder(QDirIterator &entries, const QString &canonicalPath, QStringList &files)
+OpenFolder openFolder(const QString &path, const QString &canonicalPath,
+                      const QStringList &nameFilters, QStringList &files)
 {
     OpenFolder folder;
+    folder.path = path;
     folder.canonicalPath = canonicalPath;
-    while (entries.hasNext()) {
-        const QString path = entries.next();
-        const QFileInfo entry = entries.fileInfo();
-        if (!folder.rest.isEmpty() || entry.isDir()) {
-            folder.rest.append(entry);
-        } else if (entry.isFile()) {
-            files.append(path);
+    const QString prefix = pathIn(path, QString());
+    const bool isFiltered = !nameFilters.isEmpty() && !nameFilters.contains(QLatin1String("*"));
+    const auto entries = FolderReader::open(path);
+    while (entries->next()) {
+        if (entries->isHidden() || (isFiltered && !QDir::match(nameFilters, entries->name()))) {
+            continue;
+        }
+        const FolderReader::Kind kind = entries->kind();
+        if (isFolder(kind) || (isFile(kind) && !folder.rest.isEmpty())) {
+            folder.rest.append({entries->name(), kind});
+        } else if (isFile(kind)) {
+            QString file;
+            file.reserve(prefix.size() + UsualNameLength);
+            file.append(prefix);
+            entries->appendName(&file);
+            files.append(file);
         }
     }
     return folder;
@@ -234,11 +274,14 @@ bool isOpen(const QVector<OpenFolder> &folders, const QString &canonicalPath)
     return false;
 }
 
-/** Whether a folder listing with its default filter shows @p file. */
-bool isListed(const QFileInfo &file)
+/** Whether a folder listing with its default filter shows the entry at which @p entries stands. */
+bool isListed(const FolderReader &entries)
 {
-    return !file.isHidden() &&
-           (file.isFile() || file.isDir() || (file.isSymLink() && file.exists()));
+    if (entries.isHidden()) {
+        return false;
+    }
+    const FolderReader::Kind kind = entries.kind();
+    return kind != FolderReader::Other && kind != FolderReader::BrokenLink;
 }
 
 QString themeImage(const QString &name)
@@ -383,18 +426,19 @@ QString TalvoBasicUtil::getConfigPathFromCloudPath(QString cloudPath)
     }
     const QFileInfo cloud(cloudPath);
     const QString baseName = cloud.completeBaseName();
-    QFileInfo last;
+    const QString folder = cloud.absolutePath();
+    QString last;
     QString lastKey;
-    // With every kind of entry asked for the system is asked about those only whose names match.
-    QDirIterator entries(cloud.absolutePath(), QDir::AllEntries | QDir::Hidden | QDir::System);
-    while (entries.hasNext()) {
-        entries.next();
-        const QString name = entries.fileName();
-        if (!name.contains(CompanionSuffix, Qt::CaseInsensitive)) {
+    const auto entries = FolderReader::open(folder);
+    while (entries->next()) {
+        if (!entries->mayContain(CompanionSuffix)) {
             continue;
         }
-        const QFileInfo entry = entries.fileInfo();
-        const QString entryBase = entry.completeBaseName();
+        const QString name = entries->name();
+        if (!name.contains(QLatin1String(CompanionSuffix), Qt::CaseInsensitive)) {
+            continue;
+        }
+        const QString entryBase = QFileInfo(name).completeBaseName();
         if (entryBase.compare(baseName + CompanionInfix, Qt::CaseInsensitive) != 0 &&
             entryBase.compare(baseName, Qt::CaseInsensitive) != 0) {
             continue;
@@ -402,44 +446,38 @@ QString TalvoBasicUtil::getConfigPathFromCloudPath(QString cloudPath)
         // By name as folders are sorted, whatever the case; names that differ in case only have an
         // order of their own, so that the answer is always the same.
         const QString key = name.toLower();
-        const bool isLater =
-            lastKey.isNull() || key > lastKey || (key == lastKey && name > last.fileName());
-        if (isLater && isListed(entry)) {
-            last = entry;
+        const bool isLater = lastKey.isNull() || key > lastKey || (key == lastKey && name > last);
+        if (isLater && isListed(*entries)) {
+            last = name;
             lastKey = key;
         }
     }
-    return lastKey.isNull() ? QString() : last.absoluteFilePath();
+    return lastKey.isNull() ? QString() : QFileInfo(pathIn(folder, last)).absoluteFilePath();
 }
 
 void TalvoBasicUtil::getAllFiles(const QDir &dir, QStringList &files)
 {
-    const QDir::Filters filter = QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot;
     QVector<OpenFolder> folders;
-    {
-        QDirIterator entries(QDir::cleanPath(dir.absolutePath()), dir.nameFilters(), filter);
-        folders.append(openFolder(entries, dir.canonicalPath(), files));
-    }
+    folders.append(openFolder(QDir::cleanPath(dir.absolutePath()), dir.canonicalPath(),
+                              dir.nameFilters(), files));
     while (!folders.isEmpty()) {
         OpenFolder &current = folders.last();
         if (current.next >= current.rest.size()) {
             folders.removeLast();
             continue;
         }
-        const QFileInfo entry = current.rest.at(current.next++);
-        if (!entry.isDir()) {
-            if (entry.isFile()) {
-                files.append(entry.filePath());
-            }
+        const KeptEntry entry = current.rest.at(current.next++);
+        const QString path = pathIn(current.path, entry.name);
+        if (isFile(entry.kind)) {
+            files.append(path);
             continue;
         }
-        const QString canonicalPath =
-            entry.isSymLink() ? entry.canonicalFilePath()
-                              : current.canonicalPath + QLatin1Char('/') + entry.fileName();
+        const bool isLink = entry.kind == FolderReader::LinkToFolder;
+        const QString canonicalPath = isLink ? QFileInfo(path).canonicalFilePath()
+                                             : pathIn(current.canonicalPath, entry.name);
         // Only a link can lead back to where the listing is already.
-        if (!entry.isSymLink() || !isOpen(folders, canonicalPath)) {
-            QDirIterator entries(entry.filePath(), filter);
-            folders.append(openFolder(entries, canonicalPath, files));
+        if (!isLink || !isOpen(folders, canonicalPath)) {
+            folders.append(openFolder(path, canonicalPath, QStringList(), files));
         }
     }
 }
@@ -465,9 +503,9 @@ bool TalvoBasicUtil::getPathWriteable(QString path)
 void TalvoBasicUtil::setActionIcon(QToolButton *button, const QString &normalIcon,
                                    const QString &hoverIcon, const QString &disabledIcon)
 {
-    QIcon icon(themeImage(normalIcon));
-    icon.addPixmap(QPixmap(themeImage(hoverIcon)), QIcon::Active, QIcon::Off);
-    icon.addPixmap(QPixmap(themeImage(disabledIcon)), QIcon::Disabled, QIcon::Off);
+    QIcon icon = LM::Widgets::keptIcon(themeImage(normalIcon));
+    icon.addPixmap(LM::Widgets::keptPixmap(themeImage(hoverIcon)), QIcon::Active, QIcon::Off);
+    icon.addPixmap(LM::Widgets::keptPixmap(themeImage(disabledIcon)), QIcon::Disabled, QIcon::Off);
     if (button) {
         button->setIcon(icon);
     }

@@ -3,9 +3,6 @@
 #include "dialogdone_p.h"
 #include "talvostylemanager_p.h"
 
-#include <QHash>
-#include <QPointer>
-
 namespace LM {
 namespace Widgets {
 
@@ -15,13 +12,46 @@ namespace {
 // implementation that settles on a theme, and an end for one that never does.
 constexpr int MaximumRebuilds = 8;
 
-/** Dialogs whose initStyleSheet() is running, and whether a switch arrived for them meanwhile. */
-QHash<TalvoDialogBase *, bool> &runningRebuilds()
+/**
+ * A dialog whose initStyleSheet() is running, on the stack of the function that calls it. A switch
+ * calls every dialog that lives, and all but a few return at once: a list of these costs nothing
+ * where a table that is looked up would take longer than the rest of the call.
+ */
+class Rebuild
 {
-    // Never destroyed: a dialog of static duration still asks it when the process ends.
-    static auto *rebuilds = new QHash<TalvoDialogBase *, bool>;
-    return *rebuilds;
-}
+public:
+    explicit Rebuild(TalvoDialogBase *dialog) : m_dialog(dialog), m_outer(innermost)
+    {
+        innermost = this;
+    }
+    ~Rebuild() { innermost = m_outer; }
+
+    /** The one that runs for @p dialog; null without one. */
+    static Rebuild *of(const TalvoDialogBase *dialog)
+    {
+        Rebuild *rebuild = innermost;
+        while (rebuild && rebuild->m_dialog != dialog) {
+            rebuild = rebuild->m_outer;
+        }
+        return rebuild;
+    }
+
+    bool isDestroyed() const { return !m_dialog; }
+    void setDestroyed() { m_dialog = nullptr; }
+
+    /** A switch arrived meanwhile. */
+    bool isAskedFor = false;
+
+private:
+    Q_DISABLE_COPY(Rebuild)
+
+    static Rebuild *innermost;
+
+    TalvoDialogBase *m_dialog;
+    Rebuild *m_outer;
+};
+
+Rebuild *Rebuild::innermost = nullptr;
 
 } // namespace
 
@@ -33,7 +63,9 @@ TalvoDialogBase::TalvoDialogBase(QWidget *parent, Qt::WindowFlags flags)
 
 TalvoDialogBase::~TalvoDialogBase()
 {
-    runningRebuilds().remove(this);
+    if (Rebuild *rebuild = Rebuild::of(this)) {
+        rebuild->setDestroyed();
+    }
     // From here on there is no initStyleSheet() to call, yet the destruction of the children can
     // still run host code that switches the theme.
     if (TalvoStyleManager *manager = existingStyleManager()) {
@@ -48,20 +80,17 @@ void TalvoDialogBase::done(int result)
 
 void TalvoDialogBase::onInitStyleSheet()
 {
-    QHash<TalvoDialogBase *, bool> &rebuilds = runningRebuilds();
-    const auto running = rebuilds.find(this);
-    if (running != rebuilds.end()) {
-        running.value() = true;
+    if (Rebuild *running = Rebuild::of(this)) {
+        running->isAskedFor = true;
         return;
     }
 
-    const QPointer<TalvoDialogBase> guard(this);
+    Rebuild rebuild(this);
     TalvoStyleManager *manager = TalvoStyleManager::instance().data();
-    rebuilds.insert(this, false);
     for (int count = 0; count < MaximumRebuilds; ++count) {
         const TalvoStyleManager::ThemeStyleType style = manager->currentStyle();
         initStyleSheet();
-        if (!guard || !rebuilds.value(this)) {
+        if (rebuild.isDestroyed() || !rebuild.isAskedFor) {
             break;
         }
         // The switch that came meanwhile gets its call now. Later ones get theirs as long as they
@@ -69,10 +98,7 @@ void TalvoDialogBase::onInitStyleSheet()
         if (count > 0 && manager->currentStyle() == style) {
             break;
         }
-        rebuilds[this] = false;
-    }
-    if (guard) {
-        rebuilds.remove(this);
+        rebuild.isAskedFor = false;
     }
 }
 

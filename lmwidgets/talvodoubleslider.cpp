@@ -1,21 +1,19 @@
 #include <lmwidgets/talvodoubleslider.h>
 
 #include "accessibledoubleslider_p.h"
+#include "pixelpainting_p.h"
 #include "talvodoubleslider_p.h"
+#include "themepictures_p.h"
 
 #include <lmwidgets/talvostylemanager.h>
 
 #include <QColor>
-#include <QCoreApplication>
-#include <QDateTime>
 #include <QEvent>
-#include <QFileInfo>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPixmap>
 #include <QPointer>
 
-#include <array>
 #include <cmath>
 
 namespace LM {
@@ -42,49 +40,34 @@ constexpr QSize LeastSize(26, 13); // two pictures side by side
 // them can be seen either. Values may be larger than any number of px that a painter takes.
 constexpr double DrawnOutside = 1000.0;
 
-/** A handle picture and what its file looked like when it was read. */
-struct HandlePicture
-{
-    QString path;
-    QDateTime modified;
-    qint64 size = -1;
-    QPixmap pixmap;
-};
-
-/** One for screens of normal and one for screens of higher resolution. */
-using HandlePictures = std::array<HandlePicture, 2>;
-Q_GLOBAL_STATIC(HandlePictures, keptPictures)
-
-// The pictures must not outlive the application.
-void forgetPictures()
-{
-    if (!keptPictures.isDestroyed()) {
-        keptPictures->fill(HandlePicture());
-    }
-}
-
-/**
- * Returns the handle picture of the current theme. All sliders share it, and it is read again only
- * when the theme or its file has changed.
- */
+/** The handle picture of the current theme; for screens of higher resolution it has a file too. */
 QPixmap handlePicture(qreal pixelRatio)
 {
     const QString path =
-        TalvoStyleManager::instance()->currentThemePath() + QStringLiteral("qssimage/movebutton");
-    const bool isLarge = pixelRatio > 1.0;
-    QFileInfo info(isLarge ? path + QStringLiteral("@2x.png") : path + QStringLiteral(".png"));
-    if (isLarge && !info.exists()) {
-        info.setFile(path + QStringLiteral(".png"));
-    }
-    HandlePicture &kept = (*keptPictures)[isLarge ? 1 : 0];
-    const QDateTime modified = info.lastModified();
-    if (kept.size != info.size() || kept.modified != modified || kept.path != info.filePath()) {
-        if (keptPictures->front().size < 0 && keptPictures->back().size < 0) {
-            qAddPostRoutine(forgetPictures);
+        TalvoStyleManager::instance()->currentThemePath() + QLatin1String("qssimage/movebutton");
+    if (pixelRatio > 1.0) {
+        const QPixmap large = keptPixmap(path + QLatin1String("@2x.png"));
+        if (!large.isNull()) {
+            return large;
         }
-        kept = {info.filePath(), modified, info.size(), QPixmap(info.filePath())};
     }
-    return kept.pixmap;
+    return keptPixmap(path + QLatin1String(".png"));
+}
+
+/**
+ * Draws @p rect filled and with an outline of 1 px in @p color. Where that covers whole pixels they
+ * are filled at once: to stroke the outline takes twenty times as long.
+ */
+void drawBar(QPainter *painter, const QRect &rect, QRgb color)
+{
+    // Left of the widget the painter has ways of its own with the corners.
+    if (rect.left() >= 0 && rect.width() >= 0 && paintsPixels(*painter)) {
+        painter->fillRect(rect.adjusted(0, 0, 1, 1), QColor(color));
+        return;
+    }
+    painter->setPen(QPen(QColor(color), 1));
+    painter->setBrush(QColor(color));
+    painter->drawRect(rect);
 }
 
 } // namespace
@@ -330,16 +313,11 @@ void TalvoDoubleSlider::paintEvent(QPaintEvent *event)
 
     const QRect span = d->span();
     QPainter painter(this);
-    painter.setPen(QPen(QColor(SpanColor), 1));
-    painter.setBrush(QColor(SpanColor));
-    painter.drawRect(span);
-
+    drawBar(&painter, span, SpanColor);
     // The grey parts come after the span and cover the columns at its ends. The right one is too
     // long on purpose: the edge of the widget ends it.
-    painter.setPen(QPen(QColor(OutsideColor), 1));
-    painter.setBrush(QColor(OutsideColor));
-    painter.drawRect(0, span.top(), span.left(), span.height());
-    painter.drawRect(span.right(), span.top(), width(), span.height());
+    drawBar(&painter, QRect(0, span.top(), span.left(), span.height()), OutsideColor);
+    drawBar(&painter, QRect(span.right(), span.top(), width(), span.height()), OutsideColor);
 
     const QPixmap picture = handlePicture(devicePixelRatioF());
     painter.drawPixmap(TalvoDoubleSliderPrivate::leftPicture(span), picture);

@@ -1,5 +1,6 @@
 #include <lmwidgets/titlebar.h>
 
+#include "themepictures_p.h"
 #include "titlebar_p.h"
 #include "toolbuttonrelease_p.h"
 
@@ -94,11 +95,11 @@ void TitleBarPrivate::styleButtons()
     buttons[TitleBar::RestoreButton]->setProperty("isTitleBarRestoreButton", true);
     buttons[TitleBar::CloseButton]->setProperty("isTitleBarCloseButton", true);
 
-    QIcon closeIcon(themeImage("smallwindowcloseicon"));
+    QIcon closeIcon = keptIcon(themeImage("smallwindowcloseicon"));
     // The two parts are joined without a separator, and hosts' installations are made for exactly
     // that file name. Where there is no such file the theme's image serves for all modes.
-    const QPixmap hostPixmap(QCoreApplication::applicationDirPath() +
-                             QLatin1String("qssimage/smallwindowcloseicon.png"));
+    const QPixmap hostPixmap = keptPixmap(QCoreApplication::applicationDirPath() +
+                                          QLatin1String("qssimage/smallwindowcloseicon.png"));
     closeIcon.addPixmap(hostPixmap, QIcon::Active, QIcon::Off);
     closeIcon.addPixmap(hostPixmap, QIcon::Disabled, QIcon::Off);
     buttons[TitleBar::CloseButton]->setIcon(closeIcon);
@@ -109,8 +110,8 @@ void TitleBarPrivate::styleButtons()
     buttons[TitleBar::MaxButton]->setStyleSheet(style);
     buttons[TitleBar::RestoreButton]->setStyleSheet(style);
 
-    buttons[TitleBar::MaxButton]->setIcon(QIcon(themeImage("systembuttonmaximize")));
-    buttons[TitleBar::RestoreButton]->setIcon(QIcon(themeImage("smallwindowmaxicon")));
+    buttons[TitleBar::MaxButton]->setIcon(keptIcon(themeImage("systembuttonmaximize")));
+    buttons[TitleBar::RestoreButton]->setIcon(keptIcon(themeImage("smallwindowmaxicon")));
 
     buttons[TitleBar::LogoButton]->setProperty("isTitleBarLogoButton", true);
     buttons[TitleBar::LogoButton]->setEnabled(true);

@@ -1,6 +1,7 @@
 #include <lmwidgets/toggleswitch.h>
 
 #include "accessiblechecks_p.h"
+#include "pixelpainting_p.h"
 
 #include <QApplication>
 #include <QColor>
@@ -39,6 +40,81 @@ constexpr double TextRightGap = 6.0;
 
 const QColor AccentColor(254, 200, 4);
 const QColor DarkColor(50, 50, 50);
+
+// What the track and its ring, and the knob and its ring, fit into, in px.
+constexpr QSize TrackPictureSize(48, 30);
+constexpr QSize KnobPictureSize(24, 30);
+constexpr double KnobPictureLeft = 3.0;
+
+void drawTrack(QPainter *painter, const QBrush &brush, const QPen &pen)
+{
+    painter->setBrush(brush);
+    painter->setPen(pen);
+    painter->drawRoundedRect(QRectF(TrackLeft, TrackTop, TrackWidth, TrackHeight), TrackRadius,
+                             TrackRadius);
+}
+
+void drawKnob(QPainter *painter, double left, const QBrush &brush, const QPen &pen)
+{
+    painter->setBrush(brush);
+    painter->setPen(pen);
+    painter->drawEllipse(QRectF(left, TrackTop + KnobInset, KnobSize, KnobSize));
+}
+
+QPen ringPen()
+{
+    return QPen(AccentColor, RingWidth);
+}
+
+/** The transparent picture of @p size that @p draw draws into. */
+template <typename Draw>
+QImage pictureOf(const QSize &size, Draw draw)
+{
+    QImage picture(size, QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing, true);
+    draw(&painter);
+    return picture;
+}
+
+/**
+ * The parts of a switch as pictures, painted once for all switches: most of the time of a frame goes
+ * into the smooth edges. Fillings and rings are apart. In a picture of both the pixels that both
+ * cover in part would be mixed before the background comes in, and be another shade.
+ */
+struct Pictures
+{
+    QImage onTrack = pictureOf(TrackPictureSize,
+                               [](QPainter *p) { drawTrack(p, AccentColor, QPen(Qt::NoPen)); });
+    QImage offTrack =
+        pictureOf(TrackPictureSize, [](QPainter *p) { drawTrack(p, DarkColor, QPen(Qt::NoPen)); });
+    QImage trackRing =
+        pictureOf(TrackPictureSize, [](QPainter *p) { drawTrack(p, Qt::NoBrush, ringPen()); });
+    QImage knob = pictureOf(KnobPictureSize, [](QPainter *p) {
+        drawKnob(p, KnobPictureLeft, DarkColor, QPen(Qt::NoPen));
+    });
+    QImage knobRing = pictureOf(
+        KnobPictureSize, [](QPainter *p) { drawKnob(p, KnobPictureLeft, Qt::NoBrush, ringPen()); });
+};
+
+/** Draws the switch with its knob at @p knobLeft. */
+void drawSwitch(QPainter *painter, bool checked, double knobLeft)
+{
+    if (!takesPictures(*painter)) {
+        drawTrack(painter, checked ? AccentColor : DarkColor, ringPen());
+        drawKnob(painter, knobLeft, DarkColor, checked ? QPen(Qt::NoPen) : ringPen());
+        return;
+    }
+    static const Pictures pictures;
+    painter->drawImage(QPoint(0, 0), checked ? pictures.onTrack : pictures.offTrack);
+    painter->drawImage(QPoint(0, 0), pictures.trackRing);
+    const QPoint place(static_cast<int>(knobLeft - KnobPictureLeft), 0);
+    painter->drawImage(place, pictures.knob);
+    if (!checked) {
+        painter->drawImage(place, pictures.knobRing);
+    }
+}
 
 } // namespace
 
@@ -118,24 +194,14 @@ void ToggleSwitch::paintEvent(QPaintEvent *event)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing, true);
 
-    // Where the language runs from right to left the whole switch is mirrored, the text excepted.
-    const auto mirrored = [this](const QRectF &area) {
-        return isRightToLeft()
-                   ? QRectF(width() - area.right(), area.top(), area.width(), area.height())
-                   : area;
-    };
-    const QRectF track(TrackLeft, TrackTop, TrackWidth, TrackHeight);
-    painter.setBrush(m_checked ? AccentColor : DarkColor);
-    painter.setPen(QPen(AccentColor, RingWidth));
-    painter.drawRoundedRect(mirrored(track), TrackRadius, TrackRadius);
-
-    if (m_checked) {
-        painter.setPen(Qt::NoPen);
+    const auto offset = static_cast<int>((TrackWidth - KnobSize - 2 * KnobInset) * m_position);
+    if (isRightToLeft()) {
+        // Where the language runs from right to left the switch is mirrored.
+        painter.translate(width(), 0);
+        painter.scale(-1, 1);
     }
-    painter.setBrush(DarkColor);
-    const auto offset = static_cast<int>((track.width() - KnobSize - 2 * KnobInset) * m_position);
-    painter.drawEllipse(mirrored(
-        QRectF(track.left() + KnobInset + offset, track.top() + KnobInset, KnobSize, KnobSize)));
+    drawSwitch(&painter, m_checked, TrackLeft + KnobInset + offset);
+    painter.resetTransform();
 
     // A painter takes from its widget's font what a font does not set itself, and the application's
     // sets nothing: the text would be drawn in another font than the one that it was measured in.
@@ -143,11 +209,14 @@ void ToggleSwitch::paintEvent(QPaintEvent *event)
     font.resolve(~0U);
     painter.setPen(Qt::white);
     painter.setFont(font);
+    QRectF place(TrackWidth + TextGap, 0.0, width() - TrackWidth - TextRightGap, height());
+    Qt::Alignment side = Qt::AlignLeft;
+    if (isRightToLeft()) {
+        place.moveRight(width() - place.left());
+        side = Qt::AlignRight;
+    }
     // Absolute, as the painter has the direction of the application, not that of the widget.
-    const Qt::Alignment side = isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft;
-    painter.drawText(mirrored(QRectF(track.width() + TextGap, 0.0,
-                                     width() - track.width() - TextRightGap, height())),
-                     static_cast<int>(side | Qt::AlignAbsolute | Qt::AlignVCenter), m_text);
+    painter.drawText(place, static_cast<int>(side | Qt::AlignAbsolute | Qt::AlignVCenter), m_text);
 }
 
 } // namespace Widgets

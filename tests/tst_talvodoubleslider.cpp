@@ -155,6 +155,7 @@ private Q_SLOTS:
     void handles_data();
     void handles();
     void handlesOutside();
+    void pixelsOfOutlinedRectangles();
     void themeSwitch();
     void pictureIsReadAgainWhenItsFileChanges();
     void pictureIsMissing();
@@ -779,6 +780,47 @@ void tst_TalvoDoubleSlider::handlesOutside()
     picture = pictureOf(slider.get());
     for (int x = 1; x < 110; ++x) {
         QCOMPARE(colorAt(picture, x, 10), Yellow);
+    }
+}
+
+/** The bar as filled and outlined rectangles, and the handles on it. */
+void tst_TalvoDoubleSlider::pixelsOfOutlinedRectangles()
+{
+    auto slider = hundredSlider();
+    const QString path = lmtest::themeDir() + QStringLiteral("/Black/qssimage/movebutton");
+    const bool isLarge = pictureOf(slider.get()).devicePixelRatio() > 1.0;
+    const QPixmap handle(path + (isLarge ? QStringLiteral("@2x.png") : QStringLiteral(".png")));
+    for (const int width : {110, 37, 11, 10, 3}) {
+        slider->resize(width, 20);
+        const auto position = [width](double value) {
+            return width > 10 ? value / 100 * (width - 10) + 5 : 5.0;
+        };
+        for (const double lower : {-40.0, 0.0, 19.5, 50.0, 99.0, 100.0, 180.0}) {
+            for (const double upper : {-40.0, 0.0, 19.5, 50.0, 60.0, 100.0, 180.0}) {
+                slider->setSpan(lower, upper);
+                const QImage picture = pictureOf(slider.get());
+                QImage expected(picture.size(), picture.format());
+                expected.setDevicePixelRatio(picture.devicePixelRatio());
+                expected.fill(Qt::black);
+                QPainter painter(&expected);
+                const double left = qMin(position(lower), position(upper));
+                const double right = qMax(position(lower), position(upper));
+                const QRect span(int(left), 8, int(right - left), 4);
+                painter.setPen(QPen(Yellow, 1));
+                painter.setBrush(Yellow);
+                painter.drawRect(span);
+                painter.setPen(QPen(Grey, 1));
+                painter.setBrush(Grey);
+                painter.drawRect(0, 8, span.left(), 4);
+                painter.drawRect(span.right(), 8, width, 4);
+                painter.drawPixmap(span.left() - 5, 4, handle);
+                painter.drawPixmap(span.right() - 8, 4, handle);
+                painter.end();
+                QVERIFY2(
+                    picture == expected,
+                    qPrintable(QStringLiteral("%1 px, %2 to %3").arg(width).arg(lower).arg(upper)));
+            }
+        }
     }
 }
 

@@ -8,6 +8,7 @@
 #include <QImage>
 #include <QPainter>
 #include <QPointer>
+#include <QSet>
 #include <QSignalSpy>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -130,6 +131,8 @@ private Q_SLOTS:
     void disabledIgnoresPresses();
     void pressesStayHere();
     void toggledComesAtOnceAndTheKnobLags();
+    void everyFrameAsPainted_data();
+    void everyFrameAsPainted();
     void ticks();
     void turnsRoundWhereItIs();
     void theTimerRunsByItself();
@@ -280,6 +283,70 @@ void tst_ToggleSwitch::pressesStayHere()
     press(toggle, QPoint(20, 15));
     QCOMPARE(parent.presses, 0);
     QVERIFY(toggle->isChecked());
+}
+
+void tst_ToggleSwitch::everyFrameAsPainted_data()
+{
+    QTest::addColumn<int>("format");
+    QTest::addColumn<bool>("isClipped");
+    for (const QImage::Format format :
+         {QImage::Format_RGB32, QImage::Format_ARGB32_Premultiplied, QImage::Format_ARGB32,
+          QImage::Format_RGB16, QImage::Format_RGBA8888}) {
+        QTest::newRow(qPrintable(QStringLiteral("format %1").arg(format))) << int(format) << false;
+        QTest::newRow(qPrintable(QStringLiteral("format %1, clipped").arg(format)))
+            << int(format) << true;
+    }
+}
+
+/** Pixel by pixel what a painter paints with the shapes that a switch consists of. */
+void tst_ToggleSwitch::everyFrameAsPainted()
+{
+    QFETCH(int, format);
+    QFETCH(bool, isClipped);
+    ToggleSwitch toggle;
+    toggle.setText(QString());
+    // All kinds of colours below the smooth edges.
+    QImage background(toggle.size(), QImage::Format_RGB32);
+    quint32 noise = 1;
+    for (int y = 0; y < background.height(); ++y) {
+        for (int x = 0; x < background.width(); ++x) {
+            noise = noise * 1664525 + 1013904223;
+            background.setPixel(x, y, 0xff000000 | (noise >> 8));
+        }
+    }
+    background = background.convertToFormat(QImage::Format(format));
+    const QRegion clip =
+        isClipped ? QRegion(0, 0, 20, 12) + QRegion(8, 10, 60, 15) : QRegion(toggle.rect());
+
+    QSet<int> offsets;
+    for (const bool checked : {true, false}) {
+        toggle.setChecked(checked);
+        double position = checked ? 0.0 : 1.0;
+        for (int frame = 0; frame < 16; ++frame) {
+            const int offset = int(18 * position);
+            offsets.insert(offset);
+            QImage expected = background;
+            QPainter painter(&expected);
+            painter.setClipRegion(clip);
+            painter.setRenderHint(QPainter::Antialiasing);
+            painter.setBrush(checked ? Accent : Dark);
+            painter.setPen(QPen(Accent, 2));
+            painter.drawRoundedRect(QRectF(3, 3, 42, 24), 12, 12);
+            painter.setPen(checked ? QPen(Qt::NoPen) : QPen(Accent, 2));
+            painter.setBrush(Dark);
+            painter.drawEllipse(QRectF(6 + offset, 6, 18, 18));
+            painter.end();
+
+            QImage picture = background;
+            toggle.render(&picture, clip.boundingRect().topLeft(), clip, QWidget::DrawChildren);
+            QCOMPARE(picture, expected);
+            tick(&toggle);
+            const double target = checked ? 1.0 : 0.0;
+            position =
+                qAbs(position - target) < 0.05 ? target : position + (target - position) * 0.2;
+        }
+    }
+    QVERIFY(offsets.size() > 10);
 }
 
 void tst_ToggleSwitch::toggledComesAtOnceAndTheKnobLags()
