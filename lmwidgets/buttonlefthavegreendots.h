@@ -39,6 +39,7 @@ public:
     void setShowDotColor(const QColor &color);
 
 protected:
+    /** Paints the ring, and over it what a QToolButton paints. */
     void paintEvent(QPaintEvent *event) override;
     /** Clicks as a QToolButton does; the click may destroy the button. */
     void mouseReleaseEvent(QMouseEvent *event) override;

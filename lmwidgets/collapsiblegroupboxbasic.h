@@ -16,8 +16,7 @@ QT_END_NAMESPACE
 class GroupBoxCollapseButton;
 
 /**
- * @class CollapsibleGroupBoxBasic collapsiblegroupboxbasic.h
- * <lmwidgets/collapsiblegroupboxbasic.h>
+ * @class CollapsibleGroupBoxBasic collapsiblegroupboxbasic.h <lmwidgets/collapsiblegroupboxbasic.h>
  *
  * @brief A group box that folds down to its title.
  *
@@ -143,7 +142,7 @@ private:
     Q_DISABLE_COPY(CollapsibleGroupBoxBasic)
     friend class CollapsibleGroupBox;
 
-    /** Where title and arrow stand, in px from the top left corner of the box. */
+    // Where title and arrow stand, in px from the top left corner of the box.
     struct TitlePlace
     {
         int left = 0;

@@ -138,6 +138,10 @@ Q_SIGNALS:
     void signalRemoveSelectRow(int row);
 
 protected:
+    /**
+     * Places the widgets of the cells, unless the rows are at the end of a table that is shown:
+     * those are placed by the layout that follows.
+     */
     void rowsInserted(const QModelIndex &parent, int start, int end) override;
 
 private:

@@ -67,6 +67,10 @@ public:
     void setColor(const QColor &color);
 
 protected:
+    /**
+     * Leaves out the repaint of a button that its parent does not show: the buttons below the edge
+     * of a long list would take seconds for it.
+     */
     bool event(QEvent *event) override;
     /** Clicks as a QToolButton does; the click may destroy the button. */
     void mouseReleaseEvent(QMouseEvent *event) override;

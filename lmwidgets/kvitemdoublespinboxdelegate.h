@@ -6,8 +6,7 @@
 #include <QItemDelegate>
 
 /**
- * @class kvItemDoubleSpinboxDelegate kvitemdoublespinboxdelegate.h
- * <lmwidgets/kvitemdoublespinboxdelegate.h>
+ * @class kvItemDoubleSpinboxDelegate kvitemdoublespinboxdelegate.h <lmwidgets/kvitemdoublespinboxdelegate.h>
  *
  * @brief An item delegate that edits a cell as a number with three decimals.
  *

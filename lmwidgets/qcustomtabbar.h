@@ -54,6 +54,7 @@ public:
     QColor getCircleColor(int index);
 
 protected:
+    /** Paints the ground, the tabs in the style's shape, and the dot and the text of each. */
     void paintEvent(QPaintEvent *event) override;
     /** Returns the size of a QTabBar for the tab @p index with width and height exchanged. */
     QSize tabSizeHint(int index) const override;

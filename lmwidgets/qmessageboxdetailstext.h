@@ -38,6 +38,7 @@ public:
     class LMWIDGETS_EXPORT TextEdit : public QTextEdit
     {
     public:
+        /** Constructs an empty text edit. */
         explicit TextEdit(QWidget *parent = nullptr);
         ~TextEdit() override;
 

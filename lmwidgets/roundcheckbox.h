@@ -49,6 +49,7 @@ Q_SIGNALS:
 protected:
     /** Turns the box over on the release of any button inside it. */
     void mouseReleaseEvent(QMouseEvent *event) override;
+    /** Paints the box in yellow and the knob in the half that stands for the state. */
     void paintEvent(QPaintEvent *event) override;
 
 private:

@@ -61,6 +61,7 @@ public:
     void setDefaultBorderColor(QColor color);
 
 protected:
+    /** Paints the panel, the pointer and the outline. */
     void paintEvent(QPaintEvent *event) override;
 
 private:

@@ -58,6 +58,7 @@ Q_SIGNALS:
 protected:
     /** Turns the switch over on a press of the left button within its 42 by 24 px from (0, 3). */
     void mousePressEvent(QMouseEvent *event) override;
+    /** Paints the switch with the knob where it has arrived, and the text. */
     void paintEvent(QPaintEvent *event) override;
 
 private Q_SLOTS:

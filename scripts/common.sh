@@ -7,9 +7,10 @@ root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
 # What a build needs on Debian 12, and what the tests need on top of it.
 build_packages=(g++ cmake ninja-build qtbase5-dev qttools5-dev-tools fonts-dejavu-core)
+docs_packages=(doxygen qhelpgenerator-qt5)
 test_packages=(
-    at-spi2-core binutils clang-format dbus dpkg-dev fakeroot file g++-mingw-w64-x86-64-posix
-    libxfixes-dev lintian openbox pkgconf python3 wine wine64 x11-utils xdotool xvfb
+    "${docs_packages[@]}" at-spi2-core binutils clang-format dbus dpkg-dev fakeroot file
+    g++-mingw-w64-x86-64-posix libxfixes-dev lintian openbox pkgconf python3 wine wine64 x11-utils xdotool xvfb
 )
 
 # Set when packages were installed: what CMake found before may no longer be all there is.
