@@ -49,13 +49,14 @@ def dead_links(folder):
 def public_classes(headers):
     """Name and header of every class that a host uses."""
     for header in headers:
-        found = CLASS.findall(header.read_text(encoding="utf-8"))
+        text = header.read_text(encoding="utf-8")
+        found = CLASS.findall(text)
         for name, file in found:
             if file != header.name:
                 sys.exit("%s says that it is %s" % (header, file))
             yield name, header
-        if not found and header.name not in ("lmwidgets.h", "lmwidgets_global.h"):
-            sys.exit("%s has no class with a comment" % header)
+        if not found and "@file" not in text and header.name != "lmwidgets_global.h":
+            sys.exit("%s has neither a class with a comment nor one of its own" % header)
 
 
 def check_result(folder, headers):

@@ -24,8 +24,8 @@ PICTURE_CALLS = r"(?:\bthemeIcon|\bthemeImage)\((?:QStringLiteral\()?([^;]*?)\)"
 def names_set(text, place):
     """Every property and object name that a source sets, and what cannot be followed."""
     constants = dict(re.findall(r"\bchar (\w+)\[\] = \"(\w+)\"", text))
-    # A constant is set by whatever is given it.
-    names = {value for name, value in constants.items() if re.search(r"Property$|Name$", name)}
+    # A property's name may be handed to whatever sets it.
+    names = {value for name, value in constants.items() if name.endswith("Property")}
     unknown = []
     for call, argument in re.findall(
             r"((?:\w+(?:->|\.|\[[^]]*\]->|\(\)->))*set(?:Property|ObjectName)\(((?:[^(),]|\([^()]*\))+))", text):
@@ -40,7 +40,8 @@ def names_set(text, place):
     for calls in PASSED_ON.values():
         for arguments in re.findall(calls + r"([^;{]*);", text):
             names.update(re.findall(r"\"(\w+)\"", arguments))
-    return names, unknown
+    # By these the library keeps its own notes.
+    return {name for name in names if not name.startswith("_lm_")}, unknown
 
 
 def pictures_loaded(text):

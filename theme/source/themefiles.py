@@ -53,10 +53,8 @@ OBJECT_NAMES = (
     "m_pCentreContentWidget", "collapseButton", "pLineStyleCombobox", "pLineWidthCombobox",
     "pObjectLineTypeboBox", "pObjectLineWidthboBox",
 )
-# The widgets set these as well, for themselves or for a host that looks a child up: no sheet has to
-# select on them.
+# The widgets set these as well, for a host that looks a child up: no sheet has to select on them.
 UNSTYLED_NAMES = (
-    "_lm_accessibleNameOfBox", "_lm_caption", "_lm_captionSource",
     "TalvoDoubleInputDlg", "verticalLayout", "widget", "horizontalLayout", "label_2", "doubleSpinBox",
 )
 
