@@ -20,6 +20,8 @@ class GroupBoxCollapseButton;
  *
  * @brief A group box that folds down to its title.
  *
+ * @image html collapsiblegroupboxbasic.png
+ *
  * A click on the title, or on the arrow in it, folds the box and opens it again. It is meant for
  * long property panels in scroll areas: a box that is opened scrolls itself into view. On a
  * checkable box a click on the title goes to the check box, and checking opens the box while

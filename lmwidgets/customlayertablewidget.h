@@ -18,6 +18,8 @@ class customLayerToolButton;
  *
  * @brief The list of layers, the properties of a layer or the properties of a drawing object.
  *
+ * @image html customlayertablewidget.png
+ *
  * The table shows one of three panels, chosen once with creatUiType(). The layer list has one row
  * per layer, with its name and the buttons delete, edit, lock, visibility and colour. The two
  * property panels have one row per property, a caption at the left and an editor at the right.

@@ -27,6 +27,8 @@ namespace Widgets {
  *
  * @brief Qt's file browser in the frame of the library.
  *
+ * @image html framelessfiledialog.png
+ *
  * The frame gives title bar, border and moving by the mouse; the browser inside is a QFileDialog,
  * whose members this class offers under the same names. The browser is never a dialog of the
  * platform, whatever the options say, and does not ask before a file is overwritten unless

@@ -24,6 +24,8 @@ class FramelessMessageBoxPrivate;
  *
  * @brief A modal message with a row of buttons, in the frame of the library.
  *
+ * @image html framelessmessagebox.png
+ *
  * It is used like QMessageBox and shares its enumerations, properties, keys and results. What
  * differs:
  *

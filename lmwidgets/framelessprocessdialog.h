@@ -21,6 +21,8 @@ class FramelessProcessDialogPrivate;
  *
  * @brief The progress of a long operation, in a frameless window with a percentage.
  *
+ * @image html framelessprocessdialog.png
+ *
  * It is used like QProgressDialog and shares its properties, slots and signal: it appears by itself
  * once the operation has taken its minimumDuration, or earlier when an estimate says that it will,
  * and it resets and hides itself when the value reaches the maximum. What differs:

@@ -10,6 +10,8 @@
  *
  * @brief An item delegate that edits a cell as a number with three decimals.
  *
+ * @image html kvitemdoublespinboxdelegate.png
+ *
  * The editor is a QDoubleSpinBox without arrows; the arrow keys and the wheel do not change the
  * value. The model receives the number as a text with three decimals, such as "1.235", never as a
  * double. With setEnableEmptyStr() a cell may also be left empty.

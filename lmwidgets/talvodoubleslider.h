@@ -15,6 +15,8 @@ class TalvoDoubleSliderPrivate;
  *
  * @brief A horizontal slider with two handles that mark a span of floating-point values.
  *
+ * @image html talvodoubleslider.png
+ *
  * The bar runs from 5 px inside the left edge, which is the minimum, to 5 px inside the right edge,
  * which is the maximum. The part between the handles is yellow, the parts outside are grey, and
  * each handle is the picture "movebutton" of the current theme. Values are of type double

@@ -12,6 +12,9 @@ import subprocess
 import sys
 import urllib.parse
 
+# There is nothing to see of these.
+WITHOUT_PICTURE = ("FramelessHelper", "TalvoBasicUtil", "TalvoDialogBase", "TalvoStyleManager")
+
 CLASS = re.compile(r"@class (\w+) (\w+\.h) <lmwidgets/\2>")
 
 
@@ -68,8 +71,13 @@ def check_result(folder, headers):
         pages = [page for page in pages if re.search(r"class(LM_1_1Widgets_1_1)?%s\.html" % name, page.name)]
         if len(pages) != 1:
             problems.append("%s has no page" % name)
-        elif "lmwidgets/%s" % header.name not in pages[0].read_text(encoding="utf-8"):
+            continue
+        text = pages[0].read_text(encoding="utf-8")
+        if "lmwidgets/%s" % header.name not in text:
             problems.append("the page of %s does not say which header to include" % name)
+        picture = header.stem + ".png"
+        if ('<img src="%s"' % picture in text) != (name not in WITHOUT_PICTURE):
+            problems.append("the page of %s has%s a picture" % (name, "" if name in WITHOUT_PICTURE else " not"))
         if not known & {name, "LM::Widgets::" + name}:
             problems.append("lmwidgets.qch does not know %s" % name)
     return problems
