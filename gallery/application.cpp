@@ -31,6 +31,11 @@ struct Options
         QStringLiteral("shoot"),
         QStringLiteral("Write a picture of every page and dialog into <dir> and exit."),
         QStringLiteral("dir")};
+    QCommandLineOption widgetPictures{
+        QStringLiteral("widget-pictures"),
+        QStringLiteral("Write a picture of each class, as the documentation shows it, into <dir> "
+                       "and exit."),
+        QStringLiteral("dir")};
     QCommandLineOption theme{
         QStringLiteral("theme"),
         QStringLiteral("Use this theme: %1. Pictures are taken in all of them otherwise.")
@@ -56,7 +61,8 @@ struct Options
     void addTo(QCommandLineParser &parser) const
     {
         parser.setApplicationDescription(QStringLiteral("Shows the widgets of lmwidgets."));
-        parser.addOptions({shoot, theme, page, scale, language, rightToLeft, noSplash, list});
+        parser.addOptions(
+            {shoot, widgetPictures, theme, page, scale, language, rightToLeft, noSplash, list});
     }
 };
 
@@ -183,8 +189,9 @@ void prepare(const QStringList &arguments)
     }
     QString complaints;
     QTextStream complaintStream(&complaints);
-    const bool needsScreen = !parser.isSet(options.shoot) && !parser.isSet(options.list) &&
-                             !parser.isSet(help) && checkValues(parser, options, complaintStream);
+    const bool takesPictures = parser.isSet(options.shoot) || parser.isSet(options.widgetPictures);
+    const bool needsScreen = !takesPictures && !parser.isSet(options.list) && !parser.isSet(help) &&
+                             checkValues(parser, options, complaintStream);
     if (!needsScreen) {
         nextMessageHandler = qInstallMessageHandler(dropPlatformChatter);
     }
@@ -230,6 +237,10 @@ int run(const QStringList &arguments, QTextStream &out, QTextStream &err)
         setLanguage(parser.value(options.language));
     }
     setRightToLeft(parser.isSet(options.rightToLeft));
+    if (parser.isSet(options.widgetPictures)) {
+        return shootWidgets(parser.value(options.widgetPictures), out, err) ? Success
+                                                                            : PictureFailed;
+    }
     return parser.isSet(options.shoot) ? shootAsAsked(parser, options, out, err)
                                        : showWindow(parser, options);
 }

@@ -3,6 +3,7 @@
 #include "language.h"
 #include "mainwindow.h"
 #include "page.h"
+#include "portraits.h"
 #include "signallog.h"
 #include "themes.h"
 
@@ -18,6 +19,7 @@
 #include <QPainter>
 #include <QPixmap>
 #include <QPointer>
+#include <QScopedPointer>
 #include <QTextStream>
 #include <QTimer>
 #include <QWindow>
@@ -39,6 +41,9 @@ constexpr int StillTime = 40;
 constexpr int StillLimit = 800;
 constexpr int EventSlice = 20;
 constexpr int QuietRounds = 2;
+
+// The splash screen is larger than a page of the documentation has room for.
+constexpr int WidestPortrait = 560;
 
 constexpr int BackdropMargin = 16;
 constexpr int BackdropTile = 8;
@@ -216,6 +221,65 @@ QString picturePrefix(const QString &theme)
     return prefix;
 }
 
+bool createFolder(const QString &directory, QTextStream &err)
+{
+    if (QDir().mkpath(directory)) {
+        return true;
+    }
+    err << "lmgallery: cannot create " << QDir::toNativeSeparators(directory) << '\n';
+    return false;
+}
+
+/** While it lives no text cursor blinks, which would make no two pictures alike; afterwards the theme
+ * is as before. */
+class StillScene
+{
+public:
+    StillScene() { QApplication::setCursorFlashTime(0); }
+    ~StillScene()
+    {
+        TalvoStyleManager::instance()->shiftStyle(m_theme);
+        QApplication::setCursorFlashTime(m_flashTime);
+    }
+
+private:
+    Q_DISABLE_COPY(StillScene)
+
+    const int m_flashTime = QApplication::cursorFlashTime();
+    const Theme m_theme = TalvoStyleManager::instance()->currentStyle();
+};
+
+/** Writes the picture of one class, without the backdrop of the other pictures. */
+bool shootPortrait(const Portrait &portrait, const QDir &directory, QTextStream &out,
+                   QTextStream &err)
+{
+    const QScopedPointer<QWidget> window(portrait.create());
+    window->show();
+    settle(window.data());
+    if (QWidget *focused = window->focusWidget()) {
+        focused->clearFocus();
+    }
+    if (portrait.pose) {
+        portrait.pose(window.data());
+        settle(window.data());
+    }
+    waitUntilStill(window.data());
+    QImage picture = window->grab().toImage();
+    if (picture.width() > WidestPortrait) {
+        picture = picture.scaledToWidth(WidestPortrait, Qt::SmoothTransformation);
+    }
+    if (!window->testAttribute(Qt::WA_TranslucentBackground)) {
+        picture = picture.convertToFormat(QImage::Format_RGB32);
+    }
+    const QString path = directory.filePath(portrait.name + QStringLiteral(".png"));
+    if (!picture.save(path)) {
+        err << "lmgallery: cannot write " << QDir::toNativeSeparators(path) << '\n';
+        return false;
+    }
+    out << QDir::toNativeSeparators(path) << '\n';
+    return true;
+}
+
 } // namespace
 
 bool settle(QWidget *widget)
@@ -259,14 +323,10 @@ QImage takePicture(QWidget *widget)
 bool shoot(const QString &directory, const QStringList &themes, const QStringList &pageNames,
            QTextStream &out, QTextStream &err)
 {
-    if (!QDir().mkpath(directory)) {
-        err << "lmgallery: cannot create " << QDir::toNativeSeparators(directory) << '\n';
+    if (!createFolder(directory, err)) {
         return false;
     }
-    // A text cursor that blinks would make no two pictures alike.
-    const int flashTimeBefore = QApplication::cursorFlashTime();
-    QApplication::setCursorFlashTime(0);
-    const Theme themeBefore = TalvoStyleManager::instance()->currentStyle();
+    const StillScene scene;
     Camera camera(directory, out, err);
     bool written = true;
     for (const QString &theme : themes) {
@@ -279,8 +339,22 @@ bool shoot(const QString &directory, const QStringList &themes, const QStringLis
             out.flush();
         }
     }
-    TalvoStyleManager::instance()->shiftStyle(themeBefore);
-    QApplication::setCursorFlashTime(flashTimeBefore);
+    return written;
+}
+
+bool shootWidgets(const QString &directory, QTextStream &out, QTextStream &err)
+{
+    if (!createFolder(directory, err)) {
+        return false;
+    }
+    const StillScene scene;
+    TalvoStyleManager::instance()->shiftStyle(TalvoStyleManager::Black);
+    bool written = true;
+    const QVector<Portrait> all = portraits();
+    for (const Portrait &portrait : all) {
+        written = shootPortrait(portrait, QDir(directory), out, err) && written;
+        out.flush();
+    }
     return written;
 }
 

@@ -34,6 +34,12 @@ QImage takePicture(QWidget *widget);
 bool shoot(const QString &directory, const QStringList &themes, const QStringList &pageNames,
            QTextStream &out, QTextStream &err);
 
+/**
+ * Takes the pictures for the documentation: each class alone, in the Black theme and as see-through as
+ * it is, into files `<class>.png` in @p directory; otherwise like shoot().
+ */
+bool shootWidgets(const QString &directory, QTextStream &out, QTextStream &err);
+
 } // namespace gallery
 
 #endif

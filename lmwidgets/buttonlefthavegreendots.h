@@ -11,6 +11,8 @@
  *
  * @brief A tool button with a ring on its left.
  *
+ * @image html buttonlefthavegreendots.png
+ *
  * Before the button paints itself it paints a ring of 10 px with a line of 2 px, whose centre lies
  * 13 px to the left of the button's left edge, half way down. On the screen the ring is clipped
  * away with everything else outside the button, which then looks like a QToolButton.
@@ -39,6 +41,7 @@ public:
     void setShowDotColor(const QColor &color);
 
 protected:
+    /** Paints the ring, and over it what a QToolButton paints. */
     void paintEvent(QPaintEvent *event) override;
     /** Clicks as a QToolButton does; the click may destroy the button. */
     void mouseReleaseEvent(QMouseEvent *event) override;

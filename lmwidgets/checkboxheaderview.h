@@ -15,6 +15,8 @@ namespace Widgets {
  *
  * @brief A header with a check-box picture over one section, for a "select all" above a column.
  *
+ * @image html checkboxheaderview.png
+ *
  * The picture is "qssimage/selected.png" or "qssimage/unselected.png" of the current theme, scaled
  * to the size given at construction and drawn at the place given there, with the check section. The
  * place is in the coordinates of the header: it does not follow the section when columns are moved

@@ -10,6 +10,8 @@
  *
  * @brief A collapsible group box with a settings key, for a host that remembers its state.
  *
+ * @image html collapsiblegroupbox.png
+ *
  * The box itself reads and writes no settings. It has a key that is made of the name of the window
  * and its own, and two flags that say what the host shall store under it. The key is there for
  * subclasses:

@@ -16,10 +16,11 @@ QT_END_NAMESPACE
 class GroupBoxCollapseButton;
 
 /**
- * @class CollapsibleGroupBoxBasic collapsiblegroupboxbasic.h
- * <lmwidgets/collapsiblegroupboxbasic.h>
+ * @class CollapsibleGroupBoxBasic collapsiblegroupboxbasic.h <lmwidgets/collapsiblegroupboxbasic.h>
  *
  * @brief A group box that folds down to its title.
+ *
+ * @image html collapsiblegroupboxbasic.png
  *
  * A click on the title, or on the arrow in it, folds the box and opens it again. It is meant for
  * long property panels in scroll areas: a box that is opened scrolls itself into view. On a
@@ -143,7 +144,7 @@ private:
     Q_DISABLE_COPY(CollapsibleGroupBoxBasic)
     friend class CollapsibleGroupBox;
 
-    /** Where title and arrow stand, in px from the top left corner of the box. */
+    // Where title and arrow stand, in px from the top left corner of the box.
     struct TitlePlace
     {
         int left = 0;

@@ -13,6 +13,8 @@ namespace Widgets {
  *
  * @brief An item delegate that indents the first column of a view by 14 px.
  *
+ * @image html customdelegate.png
+ *
  * The cells of column 0 are painted 14 px further right than QStyledItemDelegate paints them and
  * keep their width, so they end 14 px further right as well; background and selection move with the
  * content. Every other column, and the place of an editor in any column, is as with

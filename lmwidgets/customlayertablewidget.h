@@ -18,6 +18,8 @@ class customLayerToolButton;
  *
  * @brief The list of layers, the properties of a layer or the properties of a drawing object.
  *
+ * @image html customlayertablewidget.png
+ *
  * The table shows one of three panels, chosen once with creatUiType(). The layer list has one row
  * per layer, with its name and the buttons delete, edit, lock, visibility and colour. The two
  * property panels have one row per property, a caption at the left and an editor at the right.
@@ -138,6 +140,10 @@ Q_SIGNALS:
     void signalRemoveSelectRow(int row);
 
 protected:
+    /**
+     * Places the widgets of the cells, unless the rows are at the end of a table that is shown:
+     * those are placed by the layout that follows.
+     */
     void rowsInserted(const QModelIndex &parent, int start, int end) override;
 
 private:

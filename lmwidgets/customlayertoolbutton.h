@@ -17,6 +17,8 @@ namespace Widgets {
  *
  * @brief The small checkable button in a row of the layer list.
  *
+ * @image html customlayertoolbutton.png
+ *
  * The button shows one picture of 20 x 20 px on a transparent ground without a border. It starts
  * checked and has no picture until one of the setters is called. The setters change the picture
  * alone: whether the button is checked stays with setChecked() and the user, so that a host that
@@ -67,6 +69,10 @@ public:
     void setColor(const QColor &color);
 
 protected:
+    /**
+     * Leaves out the repaint of a button that its parent does not show: the buttons below the edge
+     * of a long list would take seconds for it.
+     */
     bool event(QEvent *event) override;
     /** Clicks as a QToolButton does; the click may destroy the button. */
     void mouseReleaseEvent(QMouseEvent *event) override;

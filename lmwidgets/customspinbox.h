@@ -13,6 +13,8 @@ namespace Widgets {
  *
  * @brief A spin box for numbers that may be left blank.
  *
+ * @image html customspinbox.png
+ *
  * When the user has deleted all text with Backspace or Delete, the value becomes 0 and the field
  * stays empty, also when it loses the focus or Return is pressed; a stock QDoubleSpinBox would put
  * the last number back. A range without 0 makes the value the bound that is nearest to it. What the

@@ -13,6 +13,8 @@ namespace Widgets {
  *
  * @brief The button of a message box that shows and hides the detailed text.
  *
+ * @image html detailbutton.png
+ *
  * A new button reads "Show Details...". Whoever owns it sets the other caption, "Hide Details...",
  * while the details are on the screen; the button keeps its width meanwhile, as its size hint has
  * room for the wider of the two, in the current language.

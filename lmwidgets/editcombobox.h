@@ -17,6 +17,8 @@ class EditComboBoxPrivate;
  *
  * @brief A text field with a list of suggestions, which typing filters.
  *
+ * @image html editcombobox.png
+ *
  * The widget is a line edit with a drop-down button of 20 x 20 px at its right. A click into the
  * line edit opens the list of the entries that contain its text, in upper or lower case; so does
  * typing. A click on the button opens the whole list. The list shows up to 10 entries before it

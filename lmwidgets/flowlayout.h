@@ -17,6 +17,8 @@ namespace Widgets {
  *
  * @brief A layout that wraps its items like the words of a paragraph.
  *
+ * @image html flowlayout.png
+ *
  * The items stand from left to right, each as large as its size hint, and the next row begins where
  * an item would reach the last column of px. The height that is needed depends on the width, and
  * parents ask for it with heightForWidth(). An item that is wider than the layout has a row of its

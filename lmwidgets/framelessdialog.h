@@ -24,6 +24,8 @@ class TitleBar;
  *
  * @brief A dialog that draws its own frame: title bar, content, and OK, Cancel and Apply.
  *
+ * @image html framelessdialog.png
+ *
  * Derive from it and fill getContentHolder(), or give it a layout with setLayout(). The dialog
  * paints a filled rectangle with a thin border; the 10 px around it are see-through. It is moved by
  * the mouse in its top 58 px. OK accepts, Cancel rejects, the title bar's close button closes.

@@ -27,6 +27,8 @@ namespace Widgets {
  *
  * @brief Qt's file browser in the frame of the library.
  *
+ * @image html framelessfiledialog.png
+ *
  * The frame gives title bar, border and moving by the mouse; the browser inside is a QFileDialog,
  * whose members this class offers under the same names. The browser is never a dialog of the
  * platform, whatever the options say, and does not ask before a file is overwritten unless
@@ -74,65 +76,87 @@ public:
 
     /** Whether files are opened or saved; QFileDialog::AcceptOpen at start. */
     QFileDialog::AcceptMode acceptMode() const;
+    /** Sets whether files are opened or saved. */
     void setAcceptMode(QFileDialog::AcceptMode mode);
 
     /** Whether Qt asks before a file is overwritten; false at start and after setOptions(). */
     bool confirmOverwrite() const;
+    /** Sets whether Qt asks before a file is overwritten. */
     void setConfirmOverwrite(bool enabled);
 
     /** The suffix that a name without one gets, with or without its dot; empty at start. */
     QString defaultSuffix() const;
+    /** Sets the suffix that a name without one gets; an empty one leaves names as they are. */
     void setDefaultSuffix(const QString &suffix);
 
     /** The folder that is shown. One that does not exist is left as it is by the browser. */
     QDir directory() const;
+    /** Shows @p directory. */
     void setDirectory(const QDir &directory);
+    /** Shows the folder with the path @p directory. */
     void setDirectory(const QString &directory);
+    /** The folder that is shown, as a URL. */
     QUrl directoryUrl() const;
+    /** Shows the folder @p directory. The browser itself shows local folders only. */
     void setDirectoryUrl(const QUrl &directory);
 
     /** What may be chosen: a new file, a file, files, or a folder; QFileDialog::AnyFile at start.
      */
     QFileDialog::FileMode fileMode() const;
+    /** Sets what may be chosen. */
     void setFileMode(QFileDialog::FileMode mode);
 
     /** Which entries of a folder are shown, such as QDir::Files. */
     QDir::Filters filter() const;
+    /** Sets which entries of a folder are shown. */
     void setFilter(QDir::Filters filters);
 
     /** The folders that were visited. */
     QStringList history() const;
+    /** Sets the folders that were visited. */
     void setHistory(const QStringList &paths);
 
     /** Where the pictures of the files come from. It stays the caller's. */
     QFileIconProvider *iconProvider() const;
+    /**
+     * Takes the pictures of the files from @p provider, which must live as long as the dialog.
+     */
     void setIconProvider(QFileIconProvider *provider);
 
     /** What draws the entries. It stays the caller's. */
     QAbstractItemDelegate *itemDelegate() const;
+    /** Has @p delegate draw the entries; it must live as long as the dialog. */
     void setItemDelegate(QAbstractItemDelegate *delegate);
 
     /** Whether the name filters are shown with their wildcards; true at start. */
     bool isNameFilterDetailsVisible() const;
+    /** Sets whether the name filters are shown with their wildcards. */
     void setNameFilterDetailsVisible(bool enabled);
 
     /** Whether the browser makes no folders and renames and deletes nothing; false at start. */
     bool isReadOnly() const;
+    /** Sets whether the browser makes no folders and renames and deletes nothing. */
     void setReadOnly(bool enabled);
 
     /** The texts of the browser's labels and buttons. */
     QString labelText(QFileDialog::DialogLabel label) const;
+    /** Sets the text of @p label. */
     void setLabelText(QFileDialog::DialogLabel label, const QString &text);
 
     /** Name filters by MIME types; selectMimeTypeFilter() chooses one of them. */
     QStringList mimeTypeFilters() const;
+    /** Replaces the name filters by those of the MIME types @p filters, such as "image/png". */
     void setMimeTypeFilters(const QStringList &filters);
+    /** Chooses the MIME type @p filter; one that is not among them is ignored. */
     void selectMimeTypeFilter(const QString &filter);
 
     /** Name filters such as "Scans (*.las *.laz)"; setNameFilter() takes several with ";;". */
     QStringList nameFilters() const;
+    /** Replaces the name filters. */
     void setNameFilters(const QStringList &filters);
+    /** Replaces the name filters by those in @p filter, which are separated by ";;". */
     void setNameFilter(const QString &filter);
+    /** The name filter that is chosen. */
     QString selectedNameFilter() const;
     /** Chooses a name filter; one that is not among them is ignored. */
     void selectNameFilter(const QString &filter);
@@ -144,15 +168,21 @@ public:
      * QFileDialog::DontUseNativeDialog: the browser is not native anyway.
      */
     void setOptions(QFileDialog::Options options);
+    /**
+     * Switches @p option on or off in the browser, without the care that setOptions() takes.
+     */
     void setOption(QFileDialog::Option option, bool on = true);
+    /** Whether @p option is on. */
     bool testOption(QFileDialog::Option option) const;
 
     /** A model between the file system and the views; null at start. It becomes the browser's. */
     QAbstractProxyModel *proxyModel() const;
+    /** Puts @p model between the file system and the views; null takes it away. */
     void setProxyModel(QAbstractProxyModel *model);
 
     /** Whether a link to a folder is shown as the folder that it names; true at start. */
     bool resolveSymlinks() const;
+    /** Sets whether a link to a folder is shown as the folder that it names. */
     void setResolveSymlinks(bool enabled);
 
     /** The browser's layout, history and folder, for a host that keeps them. */
@@ -162,21 +192,26 @@ public:
 
     /** Names a file, in the folder that is shown unless it has a path. */
     void selectFile(const QString &filename);
+    /** Names the file @p url, which has to be a local one. */
     void selectUrl(const QUrl &url);
     /** Returns what is chosen, with absolute paths; the folder that is shown if nothing is. */
     QStringList selectedFiles() const;
+    /** The same as URLs. */
     QList<QUrl> selectedUrls() const;
 
     /** The places at the side. */
     QList<QUrl> sidebarUrls() const;
+    /** Sets the places at the side. */
     void setSidebarUrls(const QList<QUrl> &urls);
 
     /** The URL schemes that the host can read. The browser itself shows local files only. */
     QStringList supportedSchemes() const;
+    /** Sets the URL schemes that the host can read. */
     void setSupportedSchemes(const QStringList &schemes);
 
     /** Whether the files are shown in a table or a list. */
     QFileDialog::ViewMode viewMode() const;
+    /** Shows the files in a table or in a list. */
     void setViewMode(QFileDialog::ViewMode mode);
 
     /** Shows Qt's own dialog, see QFileDialog::getOpenFileName(). */
@@ -250,8 +285,11 @@ public:
                                         const QStringList &supportedSchemes = QStringList());
 
 Q_SIGNALS:
-    // Hosts connect to these by name. The browser's signals are not passed on to them, so none of
-    // them is ever emitted; accepted() and selectedUrls() tell what was chosen.
+    /**
+     * For hosts that connect to it by name. The signals of the browser are not passed on, and none
+     * of these nine is ever emitted: accepted() and selectedUrls() tell what was chosen.
+     */
+    /// @{
     void currentChanged(const QString &path);
     void currentUrlChanged(const QUrl &url);
     void directoryEntered(const QString &directory);
@@ -261,6 +299,7 @@ Q_SIGNALS:
     void filterSelected(const QString &filter);
     void urlSelected(const QUrl &url);
     void urlsSelected(const QList<QUrl> &urls);
+    /// @}
 
 private Q_SLOTS:
     void slot_accepted();

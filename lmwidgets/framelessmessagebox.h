@@ -24,6 +24,8 @@ class FramelessMessageBoxPrivate;
  *
  * @brief A modal message with a row of buttons, in the frame of the library.
  *
+ * @image html framelessmessagebox.png
+ *
  * It is used like QMessageBox and shares its enumerations, properties, keys and results. What
  * differs:
  *
@@ -124,6 +126,7 @@ public:
 
     /** Replaces the standard buttons, which are deleted. Buttons added with a role stay. */
     void setStandardButtons(QMessageBox::StandardButtons buttons);
+    /** Returns the standard buttons of the box. */
     QMessageBox::StandardButtons standardButtons() const;
     /** Returns which standard button @p button is; QMessageBox::NoButton for null and others. */
     QMessageBox::StandardButton standardButton(QAbstractButton *button) const;
@@ -153,10 +156,12 @@ public:
     /** Returns the button that closed the box, also when Escape stood for it; null at start. */
     QAbstractButton *clickedButton() const;
 
+    /** Returns the message. */
     QString text() const;
     /** Shows @p text, which wraps at the width of the box; links in it are opened. */
     void setText(const QString &text);
 
+    /** Returns the icon; QMessageBox::NoIcon for a pixmap of the host's own. */
     QMessageBox::Icon icon() const;
     /**
      * Shows the image of @p icon in the title bar and as the window's icon. The images lie beside
@@ -164,14 +169,19 @@ public:
      */
     void setIcon(QMessageBox::Icon icon);
 
+    /** Returns the pixmap of the icon, or a null pixmap. */
     QPixmap iconPixmap() const;
     /** Stores @p pixmap; icon() becomes QMessageBox::NoIcon. What the title bar shows stays. */
     void setIconPixmap(const QPixmap &pixmap);
 
+    /** Returns how the message is read. */
     Qt::TextFormat textFormat() const;
+    /** Sets how the message is read: as plain text, as rich text or by what it looks like. */
     void setTextFormat(Qt::TextFormat format);
 
+    /** Returns what the mouse and the keyboard can do with the message. */
     Qt::TextInteractionFlags textInteractionFlags() const;
+    /** Sets it, until the style changes. */
     void setTextInteractionFlags(Qt::TextInteractionFlags flags);
 
     /** Returns the check box, or null. */
@@ -182,9 +192,12 @@ public:
      */
     void setCheckBox(QCheckBox *checkBox);
 
+    /** Returns the informative text. */
     QString informativeText() const;
+    /** Keeps @p text for Ctrl+C; an empty one takes it away. */
     void setInformativeText(const QString &text);
 
+    /** Returns the text behind the details button. */
     QString detailedText() const;
     /** Sets the text that a "Show Details..." button shows; an empty one removes text and button.
      */
@@ -295,7 +308,9 @@ Q_SIGNALS:
     void buttonClicked(QAbstractButton *button);
 
 protected:
+    /** Keeps the captions in a change of language, and the size up to date with the content. */
     bool event(QEvent *event) override;
+    /** As in QDialog. */
     void resizeEvent(QResizeEvent *event) override;
     /** Completes the buttons and settles which one Escape stands for, then sizes the box. */
     void showEvent(QShowEvent *event) override;
@@ -303,6 +318,7 @@ protected:
     void closeEvent(QCloseEvent *event) override;
     /** Escape, copy, select all, and the shortcuts of the buttons without Alt. */
     void keyPressEvent(QKeyEvent *event) override;
+    /** Takes icon, text interaction and the place of the buttons from a new style. */
     void changeEvent(QEvent *event) override;
 
 private Q_SLOTS:

@@ -21,6 +21,8 @@ class FramelessProcessDialogPrivate;
  *
  * @brief The progress of a long operation, in a frameless window with a percentage.
  *
+ * @image html framelessprocessdialog.png
+ *
  * It is used like QProgressDialog and shares its properties, slots and signal: it appears by itself
  * once the operation has taken its minimumDuration, or earlier when an estimate says that it will,
  * and it resets and hides itself when the value reaches the maximum. What differs:
@@ -102,19 +104,31 @@ public:
      */
     void setBar(QProgressBar *bar);
 
+    /** Returns whether the operation was canceled since the last reset(). */
     bool wasCanceled() const;
 
+    /** Returns the lowest value. */
     int minimum() const;
+    /** Returns the highest value. */
     int maximum() const;
 
+    /** Returns the progress; one below the minimum where there is none. */
     int value() const;
 
+    /** Returns the text of the label; empty without a label. */
     QString labelText() const;
+    /**
+     * Returns how long an operation must be expected to take for the dialog to appear, in ms.
+     */
     int minimumDuration() const;
 
+    /** Sets whether reset() is called when the value reaches the maximum. */
     void setAutoReset(bool reset);
+    /** Returns whether reset() is called when the value reaches the maximum. */
     bool autoReset() const;
+    /** Sets whether reset() hides the dialog. */
     void setAutoClose(bool close);
+    /** Returns whether reset() hides the dialog. */
     bool autoClose() const;
 
     /** Sets the text at the top of the dialog. The title of the window itself stays empty. */
@@ -143,7 +157,9 @@ public Q_SLOTS:
     void cancel();
     /** Takes the dialog back to its start: no value, "0%", not canceled; hidden with autoClose. */
     void reset();
+    /** Sets the highest value; one below the minimum becomes the minimum as well. */
     void setMaximum(int maximum);
+    /** Sets the lowest value; one above the maximum becomes the maximum as well. */
     void setMinimum(int minimum);
     /** Sets both ends of the range; a @p maximum below @p minimum becomes @p minimum. */
     void setRange(int minimum, int maximum);
@@ -166,11 +182,20 @@ Q_SIGNALS:
     void canceled();
 
 protected:
+    /** Places the children anew. */
     void resizeEvent(QResizeEvent *event) override;
+    /** Emits canceled() and closes. */
     void closeEvent(QCloseEvent *event) override;
+    /**
+     * Places the children anew in a new style; gives the cancel button of the first constructor
+     * its caption in a new language.
+     */
     void changeEvent(QEvent *event) override;
+    /** Grows the dialog to its size hint. */
     void showEvent(QShowEvent *event) override;
+    /** Paints the ground and a border of 1 px in RGB (112, 112, 112). */
     void paintEvent(QPaintEvent *event) override;
+    /** Ignores Escape; the other keys do what they do in a QDialog. */
     void keyPressEvent(QKeyEvent *event) override;
 
 protected Q_SLOTS:

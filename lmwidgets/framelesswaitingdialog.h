@@ -15,6 +15,8 @@ class FramelessWaitingDialogPrivate;
  *
  * @brief A small box that says that the application is busy.
  *
+ * @image html framelesswaitingdialog.png
+ *
  * The box shows an animation, a message below it and, if the host wants one, a "stop" button. It
  * blocks the other windows of the application while it is shown, and no key closes it. A click on
  * "stop" ends nothing by itself: the host asks isCancelButtonClicked() or connects

@@ -19,6 +19,8 @@ namespace Widgets {
  *
  * @brief Makes thin separator lines for a style sheet to colour.
  *
+ * @image html frameline.png
+ *
  * A line is a plain QFrame of a fixed thickness that carries a dynamic property with the value
  * true, so that a style sheet can address it: `QFrame[isBackgroundSeparator="true"] { background:
  * #585858; }`.

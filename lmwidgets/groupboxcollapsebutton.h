@@ -10,6 +10,8 @@
  *
  * @brief The arrow in the title of a CollapsibleGroupBoxBasic.
  *
+ * @image html groupboxcollapsebutton.png
+ *
  * A tool button that remembers which modifier keys were held when the mouse was released on it: the
  * box reads them when clicked() arrives, and clears them.
  */

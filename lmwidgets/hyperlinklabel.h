@@ -14,6 +14,8 @@ namespace Widgets {
  *
  * @brief A label that shows one link and opens a folder, a file or a page on the web.
  *
+ * @image html hyperlinklabel.png
+ *
  * What the link shows and what it opens are two things: setHyperlinksText() sets both to the same,
  * and setFileDir() afterwards sets another address behind the text. A click hands the address to
  * the program that the desktop has for it. Nothing is checked: an address that cannot be opened is

@@ -6,10 +6,11 @@
 #include <QItemDelegate>
 
 /**
- * @class kvItemDoubleSpinboxDelegate kvitemdoublespinboxdelegate.h
- * <lmwidgets/kvitemdoublespinboxdelegate.h>
+ * @class kvItemDoubleSpinboxDelegate kvitemdoublespinboxdelegate.h <lmwidgets/kvitemdoublespinboxdelegate.h>
  *
  * @brief An item delegate that edits a cell as a number with three decimals.
+ *
+ * @image html kvitemdoublespinboxdelegate.png
  *
  * The editor is a QDoubleSpinBox without arrows; the arrow keys and the wheel do not change the
  * value. The model receives the number as a text with three decimals, such as "1.235", never as a

@@ -11,6 +11,8 @@
  *
  * @brief An item delegate that edits a cell in a line edit limited by a regular expression.
  *
+ * @image html kvitemlineeditdelegate.png
+ *
  * The user can only type what the expression matches or may still come to match; Return and Tab do
  * not close the editor before it matches as a whole, and an editor that loses the focus before that
  * closes without writing. A host that makes another cell current, with setCurrentIndex(), has the

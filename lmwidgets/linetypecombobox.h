@@ -18,6 +18,8 @@ namespace Widgets {
  *
  * @brief A combo box that shows CAD line types as pictures.
  *
+ * @image html linetypecombobox.png
+ *
  * Every item is a white stroke on a transparent strip that is as wide as the combo box and 31 px
  * high; it has no text, and its data is the name of the line type. The host reads the choice with
  * currentData() and sets it with findData() and setCurrentIndex(). The strokes are white in every

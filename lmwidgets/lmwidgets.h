@@ -5,6 +5,15 @@
  * Includes every public header of the library.
  */
 
+/** @namespace LM
+ * What comes from the makers of lmwidgets.
+ */
+
+/** @namespace LM::Widgets
+ * Most of the library. The collapsible boxes, VantoroToolButton, ButtonLeftHaveGreenDots, the Talvo
+ * utilities and dialogs and the two item delegates for numbers and lines of text are in no namespace.
+ */
+
 #include <lmwidgets/buttonlefthavegreendots.h>
 #include <lmwidgets/checkboxheaderview.h>
 #include <lmwidgets/collapsiblegroupbox.h>

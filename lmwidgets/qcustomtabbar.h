@@ -15,6 +15,8 @@ namespace Widgets {
  *
  * @brief A bar of tabs with a coloured dot for the state of each one.
  *
+ * @image html qcustomtabbar.png
+ *
  * The bar is made for tabs on the left or on the right: the text runs from left to right all the
  * same, white on dark grey, with a dot of 6 px before it. The sizes of the tabs are those of a
  * QTabBar with width and height exchanged. Icons and buttons on tabs are not painted by the bar,
@@ -54,6 +56,7 @@ public:
     QColor getCircleColor(int index);
 
 protected:
+    /** Paints the ground, the tabs in the style's shape, and the dot and the text of each. */
     void paintEvent(QPaintEvent *event) override;
     /** Returns the size of a QTabBar for the tab @p index with width and height exchanged. */
     QSize tabSizeHint(int index) const override;

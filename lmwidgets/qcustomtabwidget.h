@@ -15,6 +15,8 @@ class QCustomTabBar;
  *
  * @brief A tab widget whose tabs carry a coloured dot for their state.
  *
+ * @image html qcustomtabwidget.png
+ *
  * It is a QTabWidget with a QCustomTabBar, which tabBar() returns. Place the tabs on the left or on
  * the right: above and below the pages the exchanged sizes of the tabs stand them on end, with the
  * text lying across them.

@@ -18,6 +18,8 @@ namespace Widgets {
  *
  * @brief The detailed text of a message box: a line above a read-only text that scrolls.
  *
+ * @image html qmessageboxdetailstext.png
+ *
  * The text is 100 px high and takes no keyboard focus, so that the keys stay with the message box;
  * the mouse selects in it, and the context menu, copy() and selectAll() act on it.
  *
@@ -38,6 +40,7 @@ public:
     class LMWIDGETS_EXPORT TextEdit : public QTextEdit
     {
     public:
+        /** Constructs an empty text edit. */
         explicit TextEdit(QWidget *parent = nullptr);
         ~TextEdit() override;
 

@@ -13,6 +13,8 @@ namespace Widgets {
  *
  * @brief A yellow pill, 60 by 30 px, with a black knob that jumps from side to side.
  *
+ * @image html roundcheckbox.png
+ *
  * The knob stands at the left when the box is checked and at the right when it is not: what the
  * knob leaves free is what counts, the reverse of most switches. Any mouse button that is released
  * on it turns it over. It has no text: set QWidget::accessibleName() so that assistive technology,
@@ -49,6 +51,7 @@ Q_SIGNALS:
 protected:
     /** Turns the box over on the release of any button inside it. */
     void mouseReleaseEvent(QMouseEvent *event) override;
+    /** Paints the box in yellow and the knob in the half that stands for the state. */
     void paintEvent(QPaintEvent *event) override;
 
 private:

@@ -16,6 +16,8 @@ QT_END_NAMESPACE
  *
  * @brief Plays an animated picture file as a series of icons.
  *
+ * @image html talvoanimatedicon.png
+ *
  * Whoever shows the icon connects with connectFrameChanged() and reads icon() each time
  * frameChanged() is emitted. The animation runs only while somebody is connected: the first frame
  * after the last receiver has left, or was destroyed, pauses it, and it then uses no time.

@@ -13,6 +13,8 @@ struct TalvoDoubleInputDlgForm;
  *
  * @brief A frameless dialog that asks for one number.
  *
+ * @image html talvodoubleinputdlg.png
+ *
  * @code
  * TalvoDoubleInputDlg dialog(window);
  * dialog.setWindowTitle(tr("Statistical outlier removal"));

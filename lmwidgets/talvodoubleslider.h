@@ -15,6 +15,8 @@ class TalvoDoubleSliderPrivate;
  *
  * @brief A horizontal slider with two handles that mark a span of floating-point values.
  *
+ * @image html talvodoubleslider.png
+ *
  * The bar runs from 5 px inside the left edge, which is the minimum, to 5 px inside the right edge,
  * which is the maximum. The part between the handles is yellow, the parts outside are grey, and
  * each handle is the picture "movebutton" of the current theme. Values are of type double
@@ -111,10 +113,18 @@ Q_SIGNALS:
     void upperValueChanged(double upper);
 
 protected:
+    /** Ends a drag when the slider is disabled, hidden or blocked by a modal window. */
     bool event(QEvent *event) override;
+    /**
+     * Grabs the handle under a press of the left button. Any other press is ignored, for the
+     * parent.
+     */
     void mousePressEvent(QMouseEvent *event) override;
+    /** Drags the grabbed handle along the bar; positions beside the bar are passed over. */
     void mouseMoveEvent(QMouseEvent *event) override;
+    /** Lets go of the handle. */
     void mouseReleaseEvent(QMouseEvent *event) override;
+    /** Paints the span in the accent colour, what is outside it in grey, and the handles. */
     void paintEvent(QPaintEvent *event) override;
 
 private:

@@ -16,6 +16,8 @@ QT_END_NAMESPACE
  *
  * @brief The picture that is shown while the host starts, with its version and "Starting...".
  *
+ * @image html talvosplashscreen.png
+ *
  * The splash screen is 680 x 469 px, whatever the size of its picture, which is stretched over it.
  * The host calls beat() as loading advances, which repaints it, and QSplashScreen::finish() when
  * its window is there.

@@ -11,6 +11,8 @@
  *
  * @brief A balloon: a filled panel with a triangular pointer on one of its edges.
  *
+ * @image html talvotriangledlg.png
+ *
  * The dialog has no frame, is see-through around what it paints, and paints nothing but the panel,
  * the pointer and an outline. The host puts child widgets on it, keeps them off the pointer's edge
  * by triangleHeight px, and places it so that the pointer's tip touches the control it belongs to.
@@ -61,6 +63,7 @@ public:
     void setDefaultBorderColor(QColor color);
 
 protected:
+    /** Paints the panel, the pointer and the outline. */
     void paintEvent(QPaintEvent *event) override;
 
 private:

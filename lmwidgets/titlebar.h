@@ -23,6 +23,8 @@ class TitleBarPrivate;
  *
  * @brief The caption strip of a window that has no system frame.
  *
+ * @image html titlebar.png
+ *
  * A title bar is 48 px high and holds, from the left: a logo button, the title, a row of extra
  * buttons and the minimise, maximise, restore and close buttons. It acts on no window: it emits
  * minimuned(), maximumed(), normaled() and closed(), and whoever owns it connects them. It

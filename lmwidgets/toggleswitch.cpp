@@ -195,13 +195,14 @@ void ToggleSwitch::paintEvent(QPaintEvent *event)
     painter.setRenderHint(QPainter::Antialiasing, true);
 
     const auto offset = static_cast<int>((TrackWidth - KnobSize - 2 * KnobInset) * m_position);
+    painter.save();
     if (isRightToLeft()) {
         // Where the language runs from right to left the switch is mirrored.
         painter.translate(width(), 0);
         painter.scale(-1, 1);
     }
     drawSwitch(&painter, m_checked, TrackLeft + KnobInset + offset);
-    painter.resetTransform();
+    painter.restore();
 
     // A painter takes from its widget's font what a font does not set itself, and the application's
     // sets nothing: the text would be drawn in another font than the one that it was measured in.

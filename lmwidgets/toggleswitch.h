@@ -15,6 +15,8 @@ namespace Widgets {
  *
  * @brief A pill-shaped switch whose knob slides, with a text at its right.
  *
+ * @image html toggleswitch.png
+ *
  * A press of the left mouse button on the switch turns it over; a press on the text does nothing.
  * The state changes, and toggled() is emitted, at once; the knob follows in about a quarter of a
  * second, and turns round where it is when the state changes again meanwhile. The colours are
@@ -58,6 +60,7 @@ Q_SIGNALS:
 protected:
     /** Turns the switch over on a press of the left button within its 42 by 24 px from (0, 3). */
     void mousePressEvent(QMouseEvent *event) override;
+    /** Paints the switch with the knob where it has arrived, and the text. */
     void paintEvent(QPaintEvent *event) override;
 
 private Q_SLOTS:

@@ -26,6 +26,8 @@ class VantoroFramelessDialogPrivate;
  *
  * @brief A dialog with a bordered frame of its own, a title bar and a tall row of buttons.
  *
+ * @image html vantoroframelessdialog.png
+ *
  * Beside FramelessDialog this is the frame for larger dialogs: there is no see-through margin, the
  * content stands on a grey area 24 px from the sides, and the row of buttons is 64 px high. The
  * host derives its dialog, sets a layout and overrides what the buttons do. The mouse drags the

@@ -11,6 +11,8 @@
  *
  * @brief A tool button with three pictures of the theme: normal, hovered and disabled.
  *
+ * @image html vantorotoolbutton.png
+ *
  * The host names the pictures once, without folder and ending: "layer_edit" stands for
  * "qssimage/layer_edit.png" of the current theme. While the mouse is over the button it shows the
  * second one, and when it is disabled the third. A theme switch shows when the mouse next enters or

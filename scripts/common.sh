@@ -9,9 +9,11 @@ root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 build_packages=(
     g++ cmake ninja-build qtbase5-dev qttools5-dev qttools5-dev-tools fonts-dejavu-core
 )
+docs_packages=(doxygen qhelpgenerator-qt5)
 test_packages=(
-    abigail-tools at-spi2-core binutils clang-format dbus dpkg-dev fakeroot file g++-mingw-w64-x86-64-posix
-    libxfixes-dev lintian openbox pkgconf python3 wine wine64 x11-utils xdotool xvfb xz-utils
+    "${docs_packages[@]}" abigail-tools at-spi2-core binutils clang-format dbus dpkg-dev fakeroot file
+    g++-mingw-w64-x86-64-posix libxfixes-dev lintian openbox pkgconf python3 wine wine64 x11-utils xdotool xvfb
+    xz-utils
 )
 
 # Set when packages were installed: what CMake found before may no longer be all there is.

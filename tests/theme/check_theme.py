@@ -16,19 +16,15 @@ import sys
 import tempfile
 import zlib
 
-THEMES = ("Black", "White", "Blue")
+sys.dont_write_bytecode = True
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "theme" / "source"))
 
-# Picture: edge in px.
-THEME_IMAGES = {
-    "systembuttonminimize": 16, "systembuttonmaximize": 16, "smallwindowmaxicon": 16,
-    "smallwindowcloseicon": 16, "Dropdownbutton": 20, "movebutton": 13, "dockwidgeticontop": 16,
-    "dockwidgeticonbuttom": 16, "delete_2dvec": 20, "layer_edit": 20, "layer_lock": 20,
-    "layer_unlock": 20, "layer_view": 20, "layer_dis_view": 20, "selected": 16, "unselected": 16,
-}
-THREE_STATE_IMAGES = (
-    "delete_2dvec", "layer_edit", "layer_lock", "layer_unlock", "layer_view", "layer_dis_view",
-)
-SHARED_IMAGES = {"success": 64, "ask": 64, "warning": 64}
+from themefiles import (  # noqa: E402
+    SHARED_IMAGES, SHEET_IMAGES, STATES, THEMES, THREE_STATE_IMAGES, ThemeFolder, gif_frames, parse_rules,
+    png_chunks, THEME_PLACEHOLDER)
+import themefiles  # noqa: E402
+
+THEME_IMAGES = {**SHEET_IMAGES, **themefiles.THEME_IMAGES}
 
 # Title bars are this dark in every theme, so these must be visible on it in every theme.
 TITLE_GROUND = (0x2B, 0x2B, 0x2B)
@@ -43,20 +39,6 @@ TINTED_IMAGES = ("delete_2dvec", "layer_edit", "layer_unlock", "layer_view", "la
                  "Dropdownbutton", "dockwidgeticontop", "dockwidgeticonbuttom", "unselected")
 LEAST_CONTRAST = 3.0
 
-PROPERTIES = (
-    "isFramelessDialog", "isFramelessDialogTitleBar", "isBackgroundSeparator", "isTitleBar",
-    "isForeground", "isTitleBarTitle", "isTitleBarLogoButton", "isTitleBarMinButton",
-    "isTitleBarMaxButton", "isTitleBarRestoreButton", "isTitleBarCloseButton", "vantorookbutton",
-    "vantorcancelbbutton", "transparentbackgroundwidget", "transparentbackgroundbutton",
-    "vantorotitlecontent", "centercontentgrayframe", "framehoderbackground", "CollGrpBxHide",
-)
-OBJECT_NAMES = (
-    "zrqfctitleLabel", "Messageboxtitlelabel", "globa_pMessageBox", "qt_msgbox_label",
-    "qt_msgboxex_icon_label", "qt_msgbox_buttonbox", "qt_msgbox_informativelabel",
-    "filedialogbottomlabel", "processdialogtitlelabel", "m_pContentHoderFrame",
-    "m_pCentreContentWidget", "collapseButton", "pLineStyleCombobox", "pLineWidthCombobox",
-    "pObjectLineTypeboBox", "pObjectLineWidthboBox",
-)
 STOCK_CLASSES = (
     "QMainWindow", "QDialog", "QLabel", "QPushButton", "QToolButton", "QLineEdit", "QPlainTextEdit",
     "QAbstractSpinBox", "QComboBox", "QCheckBox", "QRadioButton", "QAbstractItemView", "QHeaderView",
@@ -75,22 +57,12 @@ class Png:
     """An 8-bit PNG with an alpha channel, decoded far enough to look at its pixels."""
 
     def __init__(self, data):
-        if data[:8] != b"\x89PNG\r\n\x1a\n":
-            raise ValueError("is not a PNG")
-        self.width, self.height, depth, colour, _, _, interlace = struct.unpack(">IIBBBBB", data[16:29])
+        chunks = list(png_chunks(data))
+        self.width, self.height, depth, colour, _, _, interlace = struct.unpack(">IIBBBBB", chunks[0][1])
         if colour != 6 or depth != 8 or interlace:
             raise ValueError("has no alpha channel of 8 bits")
-        self.pixels = self._unfilter(zlib.decompress(self._image_data(data)))
-
-    @staticmethod
-    def _image_data(data):
-        position, parts = 8, []
-        while position < len(data):
-            length, kind = struct.unpack(">I4s", data[position:position + 8])
-            if kind == b"IDAT":
-                parts.append(data[position + 8:position + 8 + length])
-            position += length + 12
-        return b"".join(parts)
+        self.pixels = self._unfilter(
+            zlib.decompress(b"".join(content for kind, content in chunks if kind == b"IDAT")))
 
     def _unfilter(self, raw):
         stride, pixels, previous = self.width * 4, [], bytearray(self.width * 4)
@@ -127,60 +99,60 @@ def contrast(one, other):
     return (light + 0.05) / (dark + 0.05)
 
 
-class Checker:
+class Checker(ThemeFolder):
+    """What every theme must have, and beyond that what makes this one the default."""
+
     def __init__(self, folder):
-        self.folder = folder
-        self.problems = []
+        super().__init__(folder)
         self.images = {}
 
-    def complain(self, path, text):
-        self.problems.append("%s %s" % (path, text))
-
     def run(self):
+        self.check()
         for theme in THEMES:
-            for name, edge in THEME_IMAGES.items():
-                self.check_pair("%s/qssimage/%s" % (theme, name), edge)
+            for name, edge in SHEET_IMAGES.items():
+                self.check_picture("%s/qssimage/%s" % (theme, name), edge)
             for name in THREE_STATE_IMAGES:
-                self.check_states("%s/qssimage/%s" % (theme, name), THEME_IMAGES[name])
+                self.check_difference("%s/qssimage/%s" % (theme, name))
+            for name in THEME_IMAGES:
+                self.load("%s/qssimage/%s.png" % (theme, name))
             self.check_visible(theme)
-            self.check_sheet("%s/themestyle.qss" % theme, theme)
-        for name, edge in SHARED_IMAGES.items():
-            self.check_pair("qssimage/" + name, edge)
+        for stem in SHARED_IMAGES:
+            self.load("qssimage/%s.png" % stem)
+        self.check_ground()
         self.check_tints()
-        self.check_gif("qssimage/waiting.gif")
-        self.check_sheet("themestyle.qss", "Black")
+        self.check_movie("qssimage/waiting.gif")
         self.check_sheet_family()
         return self.problems
 
     # Pictures
 
     def load(self, path):
-        try:
-            self.images[path] = Png((self.folder / path).read_bytes())
-        except OSError:
-            self.complain(path, "is missing")
-        except (ValueError, IndexError, struct.error, zlib.error) as error:
-            self.complain(path, str(error) or "is damaged")
-        return self.images.get(path)
+        """The decoded picture; None where it is missing or damaged, which check() has told."""
+        if path not in self.images:
+            try:
+                self.images[path] = Png((self.folder / path).read_bytes())
+            except (OSError, zlib.error):
+                self.images[path] = None
+            except ValueError as error:
+                self.images[path] = None
+                if "alpha" in str(error):
+                    self.complain(path, str(error))
+        return self.images[path]
 
-    def check_pair(self, stem, edge):
-        for suffix, scale in (("", 1), ("@2x", 2)):
-            image = self.load(stem + suffix + ".png")
-            if not image:
-                continue
-            size = (image.width, image.height)
-            if size != (edge * scale, edge * scale):
-                self.complain(stem + suffix + ".png", "is %dx%d, not %d px square" % (*size, edge * scale))
-            if not image.solid_colours():
-                self.complain(stem + suffix + ".png", "is empty")
-            if all(pixel[3] == 255 for pixel in image.pixels):
-                self.complain(stem + suffix + ".png", "has nothing transparent")
+    def check_ground(self):
+        for path, image in self.images.items():
+            if image and not image.solid_colours():
+                self.complain(path, "is empty")
+            if image and all(pixel[3] == 255 for pixel in image.pixels):
+                self.complain(path, "has nothing transparent")
 
-    def check_states(self, stem, edge):
-        for state in ("_hover", "_disabled"):
-            self.check_pair(stem + state, edge)
-        pictures = [self.images.get(stem + state + ".png") for state in ("", "_hover", "_disabled")]
-        if all(pictures) and len({tuple(picture.pixels) for picture in pictures}) < 3:
+    def check_difference(self, stem):
+        pictures = [self.load(stem + state + suffix + ".png")
+                    for suffix in ("", "@2x") for state in ("",) + STATES]
+        if None in pictures:
+            self.complain(stem + ".png", "lacks a picture for the mouse inside or the disabled button")
+            return
+        if any(len({tuple(picture.pixels) for picture in three}) < 3 for three in (pictures[:3], pictures[3:])):
             self.complain(stem + ".png", "has a hover or disabled picture that looks like another one")
 
     def check_visible(self, theme):
@@ -198,22 +170,12 @@ class Checker:
             if all(pictures) and len({tuple(picture.pixels) for picture in pictures}) < len(THEMES):
                 self.complain("*/qssimage/%s.png" % name, "has the same colours in two themes")
 
-    def check_gif(self, path):
+    def check_movie(self, path):
         try:
             data = (self.folder / path).read_bytes()
-        except OSError:
-            self.complain(path, "is missing")
-            return
-        if data[:6] != b"GIF89a":
-            self.complain(path, "is not a GIF with animation")
-            return
-        if struct.unpack("<HH", data[6:10]) != (102, 102):
-            self.complain(path, "is not 102x102")
-        try:
             frames, delays = gif_frames(data)
-        except IndexError:
-            self.complain(path, "is damaged")
-            return
+        except (OSError, IndexError):
+            return  # As check() has told.
         if frames < 12:
             self.complain(path, "has %d frames, too few to look smooth" % frames)
         if any(not 2 <= delay <= 10 for delay in delays):
@@ -223,40 +185,22 @@ class Checker:
 
     # Style sheets
 
-    def read_sheet(self, path):
-        try:
-            text = (self.folder / path).read_text(encoding="utf-8")
-        except OSError:
-            self.complain(path, "is missing")
-            return ""
-        return re.sub(r"/\*.*?\*/", "", text, flags=re.S)
+    def check_sheet(self, path, themes):
+        rules = super().check_sheet(path, themes)
+        if rules:
+            self.check_stock_classes(path, [selector for selector, _ in rules])
+            self.check_primary_button(path, dict(rules))
+            text = self.read_sheet(path)
+            for name in re.findall(r"@[^@\s]*@?", text):
+                if name != THEME_PLACEHOLDER:
+                    self.complain(path, "has the unknown placeholder %s" % name)
+            for target in re.findall(r"url\(\"?([^\")]*)\"?\)", text):
+                if not target.startswith(THEME_PLACEHOLDER):
+                    self.complain(path, "refers to %s outside the theme" % target)
+        return rules
 
-    def check_sheet(self, path, theme):
-        text = self.read_sheet(path)
-        if not text:
-            return
-        if re.sub(r"[^{}]", "", text) != "{}" * text.count("{"):
-            self.complain(path, "has braces that do not match")
-            return
-        rules = parse_rules(text)
-        self.check_selectors(path, [selector for selector, _ in rules])
-        for name in re.findall(r"@[^@\s]*@?", text):
-            if name != "@theme@":
-                self.complain(path, "has the unknown placeholder %s" % name)
-        for target in re.findall(r"url\(\"?([^\")]*)\"?\)", text):
-            if not target.startswith("@theme@") or not (
-                    self.folder / theme / target[len("@theme@"):]).is_file():
-                self.complain(path, "refers to %s, which does not exist" % target)
-        self.check_primary_button(path, dict(rules))
-
-    def check_selectors(self, path, selectors):
+    def check_stock_classes(self, path, selectors):
         every = "\n".join(selectors)
-        for name in PROPERTIES:
-            if '[%s="true"]' % name not in every:
-                self.complain(path, "does not select on the property " + name)
-        for name in OBJECT_NAMES:
-            if not re.search(r"#%s\b" % name, every):
-                self.complain(path, "does not select on the object name " + name)
         for name in STOCK_CLASSES:
             if not re.search(r"^%s\b" % name, every, flags=re.M):
                 self.complain(path, "does not style " + name)
@@ -272,7 +216,7 @@ class Checker:
                             scope, selector, name, found.get(name), value))
 
     def check_sheet_family(self):
-        sheets = {theme: self.read_sheet("%s/themestyle.qss" % theme) for theme in THEMES}
+        sheets = {theme: self.read_sheet("%s/themestyle.qss" % theme) or "" for theme in THEMES}
         if self.read_sheet("themestyle.qss") != sheets["Black"]:
             self.complain("themestyle.qss", "is not the Black theme's")
         selectors = {theme: [s for s, _ in parse_rules(text)] for theme, text in sheets.items()}
@@ -299,41 +243,6 @@ class Checker:
                     self.complain(path, "is not what source/render makes of the templates")
 
 
-def parse_rules(text):
-    """One (selector, declarations) for each selector, in the order of the sheet."""
-    rules = []
-    for selectors, body in re.findall(r"([^{}]+)\{([^{}]*)\}", text):
-        declarations = {}
-        for declaration in body.split(";"):
-            name, colon, value = declaration.partition(":")
-            if colon:
-                declarations[name.strip()] = value.strip()
-        rules += [(" ".join(selector.split()), declarations) for selector in selectors.split(",")]
-    return rules
-
-
-def gif_frames(data):
-    """The number of frames and the delay of each in hundredths of a second."""
-    def colour_table(flags):
-        return 3 << ((flags & 7) + 1) if flags & 0x80 else 0
-
-    def skip_blocks(position):
-        while data[position]:
-            position += data[position] + 1
-        return position + 1
-
-    position, frames, delays = 13 + colour_table(data[10]), 0, []
-    while data[position] != 0x3B:
-        if data[position] == 0x21:
-            if data[position + 1] == 0xF9:
-                delays.append(struct.unpack("<H", data[position + 4:position + 6])[0])
-            position = skip_blocks(position + 2)
-        else:
-            frames += 1
-            position = skip_blocks(position + 10 + colour_table(data[position + 9]) + 1)
-    return frames, delays
-
-
 def replace_in(path, old, new):
     data = path.read_bytes()
     if old not in data:
@@ -341,13 +250,32 @@ def replace_in(path, old, new):
     path.write_bytes(data.replace(old, new))
 
 
+def cut(path, length):
+    path.write_bytes(path.read_bytes()[:-length])
+
+
+def opaque_png(edge):
+    """A red square without an alpha channel."""
+    def chunk(kind, content):
+        return struct.pack(">I", len(content)) + kind + content + struct.pack(">I", zlib.crc32(kind + content))
+
+    pixels = zlib.compress((b"\0" + b"\xff\0\0" * edge) * edge)
+    return (b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", struct.pack(">IIBBBBB", edge, edge, 8, 2, 0, 0, 0))
+            + chunk(b"IDAT", pixels) + chunk(b"IEND", b""))
+
+
 # What is done to a copy of the theme, and a word of the report that must follow.
 FAULTS = (
     ("is missing", lambda t: (t / "Blue/qssimage/layer_lock@2x.png").unlink()),
     ("px square", lambda t: shutil.copy(
         t / "White/qssimage/selected.png", t / "White/qssimage/selected@2x.png")),
-    ("has no alpha channel", lambda t: replace_in(
+    ("is damaged", lambda t: replace_in(
         t / "qssimage/ask.png", b"\x08\x06\x00\x00\x00", b"\x08\x02\x00\x00\x00")),
+    ("is cut off", lambda t: cut(t / "Black/qssimage/unselected.png", 40)),
+    ("is cut off", lambda t: cut(t / "qssimage/waiting.gif", 40)),
+    ("is not a PNG", lambda t: shutil.copy(t / "qssimage/waiting.gif", t / "qssimage/warning.png")),
+    ("has no alpha channel", lambda t: (t / "qssimage/ask.png").write_bytes(opaque_png(64))),
+    ("lacks a picture", lambda t: (t / "Black/qssimage/layer_view_disabled.png").unlink()),
     ("same colours", lambda t: shutil.copy(
         t / "Black/qssimage/layer_edit.png", t / "White/qssimage/layer_edit.png")),
     ("looks like another", lambda t: shutil.copy(
