@@ -11,14 +11,19 @@
 #include <lmwidgets/editcombobox.h>
 #include <lmwidgets/linetypecombobox.h>
 #include <lmwidgets/qcustomtabwidget.h>
+#include <lmwidgets/roundcheckbox.h>
+#include <lmwidgets/toggleswitch.h>
 
 #include <QCheckBox>
 #include <QFile>
 #include <QFileInfo>
 #include <QFormBuilder>
 #include <QPluginLoader>
+#include <QRegularExpression>
+#include <QTabBar>
 #include <QtDesigner/QDesignerContainerExtension>
 #include <QtDesigner/QDesignerFormEditorInterface>
+#include <QtDesigner/QDesignerFormWindowCursorInterface>
 #include <QtDesigner/QDesignerFormWindowInterface>
 #include <QtDesigner/QDesignerPropertySheetExtension>
 #include <QtDesigner/QDesignerWidgetBoxInterface>
@@ -27,6 +32,7 @@
 #include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
 #include <QWidget>
 
+#include <limits>
 #include <memory>
 
 class tst_DesignerForm : public lmtest::TestCase
@@ -48,10 +54,15 @@ private Q_SLOTS:
     void foldedBoxKeepsItsChildren();
     void lineTypesAreNotSaved();
     void tabPages();
+    void clickSelects_data() { namesOnTheForm(); }
+    void clickSelects();
+    void everyPropertyCanBeEdited_data() { namesOnTheForm(); }
+    void everyPropertyCanBeEdited();
 
     void loadedAtRunTime();
 
 private:
+    void namesOnTheForm();
     void open(const QString &xml);
     void reopen();
     void show();
@@ -78,6 +89,23 @@ void handleMessage(QtMsgType type, const QMessageLogContext &context, const QStr
         return;
     }
     nextHandler(type, context, message);
+}
+
+/** Returns another value of the same type; an invalid one for types that this test leaves alone. */
+QVariant another(const QVariant &value)
+{
+    switch (static_cast<QMetaType::Type>(value.type())) {
+    case QMetaType::Bool:
+        return !value.toBool();
+    case QMetaType::Int:
+        return value.toInt() == std::numeric_limits<int>::max() ? 5 : value.toInt() + 1;
+    case QMetaType::Double:
+        return value.toDouble() + 1.0;
+    case QMetaType::QSize:
+        return value.toSize().boundedTo(QSize(2000, 2000)) + QSize(3, 3);
+    default:
+        return QVariant();
+    }
 }
 
 QString pluginDir()
@@ -359,6 +387,80 @@ void tst_DesignerForm::tabPages()
     QCOMPARE(tabs->count(), 2);
     QCOMPARE(tabs->widget(0)->objectName(), QStringLiteral("viewPage"));
     QCOMPARE(tabs->tabText(1), QStringLiteral("Export"));
+}
+
+/** The name that each widget has on the form: the one that it gets when it is dropped there. */
+void tst_DesignerForm::namesOnTheForm()
+{
+    QTest::addColumn<QString>("name");
+    const QRegularExpression nameInXml(QStringLiteral("<widget class=\"[^\"]+\" name=\"(\\w+)\""));
+    for (QDesignerCustomWidgetInterface *plugin : qAsConst(m_widgets)) {
+        const QString name = nameInXml.match(plugin->domXml()).captured(1);
+        QTest::newRow(qPrintable(name)) << name;
+    }
+}
+
+/** A click on a widget selects it for editing; none of them acts on it as in the host. */
+void tst_DesignerForm::clickSelects()
+{
+    QFETCH(QString, name);
+    open(m_xml);
+    show();
+    auto *widget = m_form->mainContainer()->findChild<QWidget *>(name);
+    QVERIFY(widget && widget->isVisible());
+    // On the title of a box, in the text of a line edit, on the pill of a switch.
+    const QPoint position(30, widget->inherits("QGroupBox") ? 8 : widget->height() / 2);
+    QWidget *below = widget->childAt(position);
+    if (widget->inherits("QTabWidget")) {
+        below = static_cast<QTabWidget *>(widget)->tabBar();
+    }
+    QWidget *target = below ? below : widget;
+    QTest::mouseClick(target, Qt::LeftButton, Qt::NoModifier,
+                      target->mapFrom(m_form->window(), widget->mapTo(m_form->window(), position)));
+    QCOMPARE(m_form->cursor()->selectedWidgetCount(), 1);
+    QCOMPARE(m_form->cursor()->selectedWidget(0), widget);
+    QVERIFY(!QApplication::activePopupWidget());
+    if (widget->inherits("QTabWidget")) {
+        // The tabs are the exception in every tab widget: they turn the pages.
+        return;
+    }
+    QVERIFY(!find<CollapsibleGroupBox>("collapsibleGroupBox")->isCollapsed());
+    QVERIFY(find<CollapsibleGroupBoxBasic>("collapsibleGroupBoxBasic")->isCollapsed());
+    QVERIFY(!find<LM::Widgets::ToggleSwitch>("toggleSwitch")->isChecked());
+    QVERIFY(!find<LM::Widgets::RoundCheckBox>("roundCheckBox")->isChecked());
+    QCOMPARE(m_form->contents().trimmed(), m_xml.trimmed());
+}
+
+/** Changes what the property editor offers of a widget, one after the other, and takes it back. */
+void tst_DesignerForm::everyPropertyCanBeEdited()
+{
+    QFETCH(QString, name);
+    open(m_xml);
+    show();
+    auto *widget = m_form->mainContainer()->findChild<QWidget *>(name);
+    QVERIFY(widget);
+    QDesignerPropertySheetExtension *sheet = m_editor->sheet(widget);
+    int edited = 0;
+    for (int i = 0; i < sheet->count(); ++i) {
+        const QVariant before = sheet->property(i);
+        const QVariant value = another(before);
+        // The place in the layout is the layout's, which has its properties elsewhere in the file.
+        if (!value.isValid() || !sheet->isVisible(i) || !sheet->isEnabled(i) ||
+            sheet->isAttribute(i) || sheet->propertyName(i) == QLatin1String("geometry")) {
+            continue;
+        }
+        const bool wasChanged = sheet->isChanged(i);
+        sheet->setProperty(i, value);
+        sheet->setChanged(i, true);
+        QCoreApplication::processEvents();
+        QVERIFY(m_form->contents().contains('"' + sheet->propertyName(i) + '"'));
+        sheet->setProperty(i, before);
+        sheet->setChanged(i, wasChanged);
+        ++edited;
+    }
+    QVERIFY2(edited > 5, qPrintable(QString::number(edited)));
+    QCoreApplication::processEvents();
+    QCOMPARE(m_form->contents().trimmed(), m_xml.trimmed());
 }
 
 /** A host that loads the form itself, as QUiLoader does, gets the same widgets from the plugin. */
