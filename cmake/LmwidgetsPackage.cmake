@@ -39,8 +39,9 @@ box, file, progress and waiting dialogs in that frame, input widgets,
 containers, and the editors of a layer table.
 
 This package holds the headers, the package files for CMake and pkg-config,
-the default theme that a host puts beside its executable, and the plugin
-that brings the widgets into Qt Designer.")
+the default theme that a host puts beside its executable, the documentation
+for a browser and for Qt Creator, and the plugin that brings the widgets into
+Qt Designer.")
 
 # Debian wants to find in every package who made it and what changed.
 find_program(LMWIDGETS_GZIP gzip)
