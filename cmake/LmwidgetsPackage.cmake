@@ -1,4 +1,6 @@
-# What cpack makes on Debian: a package with the shared library and one with what a developer needs.
+# What cpack makes. For Windows a zip that shows the gallery from any folder: see LmwidgetsPackageWindows.cmake.
+#
+# On Debian a package with the shared library and one with what a developer needs.
 # scripts/package configures for /usr and calls it; the paths of an installed package are fixed when the
 # build is configured.
 set(CPACK_PACKAGE_NAME lmwidgets)
@@ -8,6 +10,12 @@ set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "${PROJECT_DESCRIPTION}")
 set(CPACK_PACKAGE_VERSION "${PROJECT_VERSION}")
 set(CPACK_COMPONENTS_ALL runtime dev)
 set(CPACK_STRIP_FILES ON)
+
+if(WIN32)
+    include(cmake/LmwidgetsPackageWindows.cmake)
+    include(CPack)
+    return()
+endif()
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
