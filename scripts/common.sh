@@ -9,7 +9,7 @@ root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 build_packages=(g++ cmake ninja-build qtbase5-dev qttools5-dev-tools fonts-dejavu-core)
 test_packages=(
     at-spi2-core binutils clang-format dbus dpkg-dev fakeroot file g++-mingw-w64-x86-64-posix
-    libxfixes-dev lintian openbox pkgconf python3 wine wine64 x11-utils xdotool xvfb
+    libxfixes-dev lintian openbox pkgconf python3 wine wine64 x11-utils xdotool xfwm4 xvfb
 )
 
 # Set when packages were installed: what CMake found before may no longer be all there is.
