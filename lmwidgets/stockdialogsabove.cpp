@@ -12,16 +12,16 @@ namespace Widgets {
 
 namespace {
 
+const char LiftedName[] = "_lm_lifted";
+
 /** What serves a dialog that was lifted, for as long as that one lives. */
 class LiftedDialog : public QObject
 {
 public:
     explicit LiftedDialog(QDialog *dialog) : QObject(dialog), m_activation(dialog), m_above(dialog)
     {
-        setObjectName(name());
+        setObjectName(QLatin1String(LiftedName));
     }
-
-    static QString name() { return QStringLiteral("lmwidgets_lifted"); }
 
 private:
     KeyboardActivation m_activation;
@@ -93,7 +93,7 @@ void StockDialogsAbove::liftDialog(QDialog *dialog)
     // Nobody draws a frame around it now; a style sheet may draw a border.
     dialog->setAttribute(Qt::WA_StyledBackground);
     // A dialog that gets another window, for other flags, is served already.
-    if (!dialog->findChild<QObject *>(LiftedDialog::name(), Qt::FindDirectChildrenOnly)) {
+    if (!dialog->findChild<QObject *>(QLatin1String(LiftedName), Qt::FindDirectChildrenOnly)) {
         new LiftedDialog(dialog);
     }
 }
