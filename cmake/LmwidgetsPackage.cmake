@@ -1,4 +1,6 @@
-# What cpack makes on Debian: a package with the shared library and one with what a developer needs.
+# What cpack makes. For Windows a zip that shows the gallery from any folder: see LmwidgetsPackageWindows.cmake.
+#
+# On Debian a package with the shared library and one with what a developer needs.
 # scripts/package configures for /usr and calls it; the paths of an installed package are fixed when the
 # build is configured.
 set(CPACK_PACKAGE_NAME lmwidgets)
@@ -8,6 +10,12 @@ set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "${PROJECT_DESCRIPTION}")
 set(CPACK_PACKAGE_VERSION "${PROJECT_VERSION}")
 set(CPACK_COMPONENTS_ALL runtime dev)
 set(CPACK_STRIP_FILES ON)
+
+if(WIN32)
+    include(cmake/LmwidgetsPackageWindows.cmake)
+    include(CPack)
+    return()
+endif()
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
@@ -39,8 +47,9 @@ box, file, progress and waiting dialogs in that frame, input widgets,
 containers, and the editors of a layer table.
 
 This package holds the headers, the package files for CMake and pkg-config,
-the default theme that a host puts beside its executable, and the plugin
-that brings the widgets into Qt Designer.")
+the default theme that a host puts beside its executable, the documentation
+for a browser and for Qt Creator, and the plugin that brings the widgets into
+Qt Designer.")
 
 # Debian wants to find in every package who made it and what changed.
 find_program(LMWIDGETS_GZIP gzip)

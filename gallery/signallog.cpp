@@ -11,6 +11,7 @@
 #include <QMetaEnum>
 #include <QMetaMethod>
 #include <QPushButton>
+#include <QThread>
 #include <QTime>
 #include <QTreeWidget>
 #include <QVariant>
@@ -131,13 +132,23 @@ public:
         }
         if (id < m_methods.size()) {
             const QMetaMethod method = m_methods.at(id);
-            m_log->note(m_name, QString::fromLatin1(method.name()),
-                        argumentsText(method, arguments));
+            note(QString::fromLatin1(method.name()), argumentsText(method, arguments));
         }
         return id - m_methods.size();
     }
 
 private:
+    /** Writes into the log, in its thread: a host's worker may emit the signals of a dialog. */
+    void note(const QString &event, const QString &arguments)
+    {
+        const auto write = [this, event, arguments] { m_log->note(m_name, event, arguments); };
+        if (QThread::currentThread() == thread()) {
+            write();
+        } else {
+            QMetaObject::invokeMethod(this, write, Qt::QueuedConnection);
+        }
+    }
+
     /** Has the sender's class make the types of a signal known, which connections do only later. */
     static void registerArguments(QObject *sender, const QMetaMethod &method)
     {

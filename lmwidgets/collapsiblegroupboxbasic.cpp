@@ -201,6 +201,7 @@ void CollapsibleGroupBoxBasic::changeState(bool collapse, bool mayScroll)
 void CollapsibleGroupBoxBasic::applyState(bool collapse)
 {
     const LayoutPause pause(parentWidget());
+    const LayoutPause ownPause(this);
     if (!m_initialFlat) {
         setFlat(collapse);
     }

@@ -1,7 +1,5 @@
 #include "embeddedfiledialog_p.h"
 
-#include "stockdialogsabove_p.h"
-
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QLineEdit>
@@ -80,7 +78,6 @@ void EmbeddedFileDialog::becomePartOfFrame()
     setWindowFlags(windowFlags() & ~Qt::WindowType_Mask);
     // The frame resizes itself, by its edges.
     setSizeGripEnabled(false);
-    new StockDialogsAbove(this);
     // Else the longest name filter would widen the frame, beyond the screen if need be.
     const QList<QComboBox *> boxes = findChildren<QComboBox *>();
     for (QComboBox *box : boxes) {

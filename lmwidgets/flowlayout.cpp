@@ -5,6 +5,7 @@
 #include <QWidget>
 
 #include <limits>
+#include <typeinfo>
 
 namespace LM {
 namespace Widgets {
@@ -17,6 +18,13 @@ int commonMargin(const QMargins &margins)
     const bool isCommon = margins.left() == margins.top() && margins.top() == margins.right() &&
                           margins.right() == margins.bottom();
     return isCommon ? margins.left() : -1;
+}
+
+/** Whether @p item is one that Qt makes for a widget, and not a host's own kind. */
+bool isPlainItem(QLayoutItem *item)
+{
+    const std::type_info &type = typeid(*item);
+    return type == typeid(QWidgetItemV2) || type == typeid(QWidgetItem);
 }
 
 /**
@@ -147,7 +155,8 @@ void FlowLayout::setGeometry(const QRect &rect)
 
 void FlowLayout::invalidate()
 {
-    m_sizeHints.clear();
+    m_known.clear();
+    ++m_changes;
     m_minimumSize = QSize();
     QLayout::invalidate();
 }
@@ -178,8 +187,7 @@ int FlowLayout::doLayout(const QRect &rect, bool testOnly) const
             lineHeight = 0;
         }
         if (!testOnly) {
-            item->setGeometry(
-                QRect(QPoint(toPixels(x, hint.width()), toPixels(y, hint.height())), hint));
+            place(i, QRect(QPoint(toPixels(x, hint.width()), toPixels(y, hint.height())), hint));
         }
         x = nextX;
         lineHeight = qMax<qint64>(lineHeight, hint.height());
@@ -214,17 +222,45 @@ QSize FlowLayout::itemSizeHint(int index) const
     if (!isToldOfChanges()) {
         return m_items.at(index)->sizeHint();
     }
-    if (m_sizeHints.size() != m_items.size()) {
-        m_sizeHints.fill(QSize(), m_items.size());
+    if (m_known.size() != m_items.size()) {
+        m_known.fill(Known(), m_items.size());
     }
-    if (m_sizeHints.at(index).isValid()) {
-        return m_sizeHints.at(index);
+    if (m_known.at(index).sizeHint.isValid()) {
+        return m_known.at(index).sizeHint;
     }
     const QSize hint = m_items.at(index)->sizeHint();
-    if (index < m_sizeHints.size()) {
-        m_sizeHints[index] = hint;
+    if (index < m_known.size()) {
+        m_known[index].sizeHint = hint;
     }
     return hint;
+}
+
+/**
+ * Gives the item at @p index its place. Most items of a layout that is resized a little stay where
+ * they are, and where Qt's own item has put the widget there before it need not find that out again.
+ */
+void FlowLayout::place(int index, const QRect &rect) const
+{
+    QLayoutItem *item = m_items.at(index);
+    const QWidget *widget = item->widget();
+    const bool isKept = widget && index < m_known.size() && isToldOfChanges();
+    if (isKept) {
+        const Known &known = m_known.at(index);
+        if (known.place == rect && known.geometry == widget->geometry() &&
+            known.alignment == item->alignment()) {
+            return;
+        }
+    }
+    const bool isPlain = isKept && isPlainItem(item);
+    const unsigned int changes = m_changes;
+    item->setGeometry(rect);
+    // A widget that is moved may change what is known, and take this item or others away.
+    if (isPlain && changes == m_changes && m_items.value(index) == item) {
+        Known &known = m_known[index];
+        known.place = rect;
+        known.geometry = item->widget()->geometry();
+        known.alignment = item->alignment();
+    }
 }
 
 /**

@@ -5,6 +5,7 @@
 
 #include <QLayout>
 #include <QList>
+#include <QRect>
 #include <QSize>
 #include <QStyle>
 #include <QVector>
@@ -106,13 +107,24 @@ private:
     int smartSpacing(QStyle::PixelMetric pm) const;
     int itemSpacing(QLayoutItem *item, Qt::Orientation orientation) const;
     QSize itemSizeHint(int index) const;
+    void place(int index, const QRect &rect) const;
     bool isToldOfChanges() const;
 
     QList<QLayoutItem *> m_items;
     int m_horizontalSpacing;
     int m_verticalSpacing;
-    mutable QVector<QSize> m_sizeHints; // as long as m_items, or empty; an invalid one is not known
-    mutable QSize m_minimumSize;        // invalid when not known
+    /** What is known of an item until something changes. */
+    struct Known
+    {
+        QSize sizeHint;          // invalid when not known
+        QRect place;             // that the item was given last; invalid when not known
+        QRect geometry;          // that its widget got by that
+        Qt::Alignment alignment; // of the item at that time
+    };
+
+    mutable QVector<Known> m_known; // as long as m_items, or empty
+    unsigned int m_changes = 0;     // how often all of it was forgotten
+    mutable QSize m_minimumSize;    // invalid when not known
 };
 
 } // namespace Widgets

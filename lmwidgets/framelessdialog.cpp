@@ -48,7 +48,7 @@ const char MessageBoxTitleStyle[] =
 } // namespace
 
 FramelessDialogPrivate::FramelessDialogPrivate(FramelessDialog *dialog)
-    : q(dialog), keyboardActivation(dialog), unmanagedWindowState(dialog)
+    : q(dialog), keyboardActivation(dialog), unmanagedWindowState(dialog), stockDialogsAbove(dialog)
 {
 }
 

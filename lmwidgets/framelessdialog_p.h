@@ -2,6 +2,7 @@
 #define LMWIDGETS_FRAMELESSDIALOG_P_H
 
 #include "keyboardactivation_p.h"
+#include "stockdialogsabove_p.h"
 #include "unmanagedwindowstate_p.h"
 
 #include <lmwidgets/titlebar.h>
@@ -62,6 +63,7 @@ public:
     bool tabOrderSettled = false;
     KeyboardActivation keyboardActivation;
     UnmanagedWindowState unmanagedWindowState;
+    StockDialogsAbove stockDialogsAbove;
 };
 
 } // namespace Widgets

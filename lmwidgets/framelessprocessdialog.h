@@ -43,7 +43,9 @@ class FramelessProcessDialogPrivate;
  *     progress.setValue(i);
  *     copyTile(i);
  * }
- * progress.setValue(count);
+ * if (!progress.wasCanceled()) {
+ *     progress.setValue(count);
+ * }
  * @endcode
  *
  * setValue() of a modal dialog that was shown runs pending events. Whatever these do, be it another

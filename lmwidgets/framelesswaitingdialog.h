@@ -33,6 +33,8 @@ class FramelessWaitingDialogPrivate;
  *     readTiles();
  *     Q_EMIT box->signalStopWaittingDialog();
  * });
+ * connect(worker, &QThread::finished, worker, &QObject::deleteLater);
+ * worker->start();
  * @endcode
  *
  * The animation is the file theme/qssimage/waiting.gif beside the host's program; without it the

@@ -13,7 +13,7 @@ docs_packages=(doxygen qhelpgenerator-qt5)
 test_packages=(
     "${docs_packages[@]}" abigail-tools at-spi2-core binutils clang-format dbus dpkg-dev fakeroot file
     g++-mingw-w64-x86-64-posix libxfixes-dev lintian openbox pkgconf python3 wine wine64 x11-utils xdotool xvfb
-    xz-utils
+    xfwm4 xz-utils
 )
 
 # Set when packages were installed: what CMake found before may no longer be all there is.

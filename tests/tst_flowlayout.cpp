@@ -226,6 +226,9 @@ private Q_SLOTS:
     void hintsAreDroppedOnChange();
     void hintsOfALooseLayout();
     void styleChange();
+    void movedByTheHostBetween();
+    void changedSinceThePlacing();
+    void ownKindOfItem();
     void removedWhilePlacing();
 };
 
@@ -873,6 +876,92 @@ void tst_FlowLayout::styleChange()
     window.setStyle(&style);
     QTRY_COMPARE(second->x(), 61);
     window.setStyle(nullptr);
+}
+
+void tst_FlowLayout::movedByTheHostBetween()
+{
+    QWidget window;
+    auto *layout = new FlowLayout(&window, 0, 10, 10);
+    auto *tag = new Tag(QSize(50, 20));
+    layout->addWidget(new Tag(QSize(30, 20)));
+    layout->addWidget(tag);
+    window.resize(300, 100);
+    window.show();
+    const QRect place(40, 0, 50, 20);
+    QTRY_COMPARE(tag->geometry(), place);
+    for (const QRect &elsewhere : {QRect(1, 2, 50, 20), QRect(40, 0, 51, 20), QRect(0, 0, 9, 9)}) {
+        tag->setGeometry(elsewhere);
+        layout->setGeometry(QRect(0, 0, 300, 100));
+        QCOMPARE(tag->geometry(), place);
+    }
+}
+
+void tst_FlowLayout::changedSinceThePlacing()
+{
+    QWidget window;
+    auto *layout = new FlowLayout(&window, 0, 10, 10);
+    auto *tag = new Tag(QSize(50, 40));
+    layout->addWidget(tag);
+    window.resize(300, 100);
+    window.show();
+    QTRY_COMPARE(tag->geometry(), QRect(0, 0, 50, 40));
+    const QRect rect(0, 0, 300, 100);
+    tag->setMaximumSize(20, 10);
+    layout->setGeometry(rect);
+    QCOMPARE(tag->size(), QSize(20, 10));
+    tag->setMaximumSize(30, 20);
+    layout->setGeometry(rect);
+    QCOMPARE(tag->size(), QSize(30, 20));
+    tag->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    layout->setGeometry(rect);
+    QCOMPARE(tag->geometry(), QRect(0, 0, 50, 40));
+    layout->itemAt(0)->setAlignment(Qt::AlignBottom | Qt::AlignRight);
+    tag->setHint(QSize(20, 20));
+    tag->setMinimumSize(40, 40);
+    tag->setMaximumSize(40, 40);
+    layout->setGeometry(QRect(7, 9, 300, 100));
+    QCOMPARE(tag->geometry(), QRect(7, 9, 40, 40));
+    // Nobody is told of an alignment that is set on the item itself.
+    tag->setMinimumSize(0, 0);
+    tag->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    tag->setHint(QSize(60, 60));
+    for (const Qt::Alignment alignment : {Qt::Alignment(Qt::AlignTop), Qt::Alignment()}) {
+        layout->itemAt(0)->setAlignment(alignment);
+        layout->setGeometry(rect);
+        QWidget other;
+        auto *fresh = new FlowLayout(&other, 0, 10, 10);
+        auto *same = new Tag(QSize(60, 60));
+        fresh->addWidget(same);
+        fresh->itemAt(0)->setAlignment(alignment);
+        fresh->setGeometry(rect);
+        QCOMPARE(tag->geometry(), same->geometry());
+    }
+}
+
+void tst_FlowLayout::ownKindOfItem()
+{
+    // What a host derives from Qt's item is given its place every time.
+    class Counted : public QWidgetItem
+    {
+    public:
+        using QWidgetItem::QWidgetItem;
+        void setGeometry(const QRect &rect) override
+        {
+            ++count;
+            QWidgetItem::setGeometry(rect);
+        }
+        int count = 0;
+    };
+    QWidget window;
+    auto *layout = new FlowLayout(&window, 0, 10, 10);
+    auto *tag = new Tag(QSize(50, 20));
+    tag->setParent(&window);
+    auto *item = new Counted(tag);
+    layout->addItem(item);
+    for (int i = 1; i < 4; ++i) {
+        layout->setGeometry(QRect(0, 0, 300, 100));
+        QCOMPARE(item->count, i);
+    }
 }
 
 void tst_FlowLayout::removedWhilePlacing()

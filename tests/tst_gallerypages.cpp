@@ -9,6 +9,7 @@
 
 #include <lmwidgets/customlayertablewidget.h>
 #include <lmwidgets/framelessdialog.h>
+#include <lmwidgets/framelesswaitingdialog.h>
 #include <lmwidgets/talvostylemanager.h>
 #include <lmwidgets/titlebar.h>
 
@@ -18,11 +19,13 @@
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QScopedPointer>
+#include <QThread>
 #include <QTimer>
 #include <QToolButton>
 
 using gallery::SignalLog;
 using LM::Widgets::FramelessDialog;
+using LM::Widgets::FramelessWaitingDialog;
 using LM::Widgets::TalvoStyleManager;
 using LM::Widgets::TitleBar;
 
@@ -66,6 +69,7 @@ private Q_SLOTS:
     void themeSwitchTakesEffectAtOnce();
     void titleBarFollowsTheTheme();
     void noticesReachTheLog();
+    void noticesOfWorkersReachTheLog();
     void dialogFollowsItsSwitches();
     void dialogGoesWithItsPage();
     void helperWindowOpensAndCloses();
@@ -140,6 +144,22 @@ void tst_GalleryPages::noticesReachTheLog()
     QCOMPARE(window.log()->count(), before + 1);
     QCOMPARE(window.log()->line(before), (QStringList{"TalvoStyleManager", "SectionThicknessUpdate",
                                                       "name = \"A-A\", thick = 0.25"}));
+}
+
+/** The waiting dialog's signals are there for threads to emit. */
+void tst_GalleryPages::noticesOfWorkersReachTheLog()
+{
+    SignalLog log;
+    FramelessWaitingDialog box;
+    log.watch(&box, QStringLiteral("box"));
+    const QScopedPointer<QThread> worker(
+        QThread::create([&box] { Q_EMIT box.signalCancelButtonClicked(); }));
+    worker->start();
+    worker->wait();
+    // Not written by the worker, but by the thread of the list.
+    QCOMPARE(log.count(), 0);
+    QTRY_COMPARE(log.count(), 1);
+    QCOMPARE(log.line(0), (QStringList{"box", "signalCancelButtonClicked", ""}));
 }
 
 void tst_GalleryPages::dialogFollowsItsSwitches()

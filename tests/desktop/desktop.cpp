@@ -70,6 +70,13 @@ QString Desktop::start()
         const char *package;
     } needed[] = {{"Xvfb", "xvfb"}, {"openbox", "openbox"}, {"xdotool", "xdotool"}};
     QStringList missing;
+    if (windowManager() == QLatin1String("xfwm4")) {
+        for (const char *program : {"xfwm4", "dbus-run-session"}) {
+            if (QStandardPaths::findExecutable(QLatin1String(program)).isEmpty()) {
+                missing.append(QLatin1String(program));
+            }
+        }
+    }
     for (const auto &need : needed) {
         if (QStandardPaths::findExecutable(QLatin1String(need.program)).isEmpty()) {
             missing.append(QLatin1String(need.package));
@@ -113,17 +120,32 @@ QString Desktop::startServer()
     return QString();
 }
 
+QString Desktop::windowManager()
+{
+    return qEnvironmentVariable("LMTEST_WM", QStringLiteral("openbox"));
+}
+
 QString Desktop::startWindowManager()
 {
-    m_windowManager.setProcessEnvironment(m_environment);
-    m_windowManager.start(QStringLiteral("openbox"),
-                          {QStringLiteral("--sm-disable"), QStringLiteral("--config-file"),
-                           QStringLiteral(DESKTOP_SOURCE_DIR "/openbox.xml")});
+    if (windowManager() == QLatin1String("xfwm4")) {
+        // It takes its settings from a service on the session bus; nobody's own are to count.
+        m_environment.insert(QStringLiteral("XDG_CONFIG_HOME"), m_runtimeDir.path());
+        m_environment.remove(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"));
+        m_windowManager.setProcessEnvironment(m_environment);
+        m_windowManager.start(
+            QStringLiteral("dbus-run-session"),
+            {QStringLiteral("--"), QStringLiteral("xfwm4"), QStringLiteral("--compositor=off")});
+    } else {
+        m_windowManager.setProcessEnvironment(m_environment);
+        m_windowManager.start(QStringLiteral("openbox"),
+                              {QStringLiteral("--sm-disable"), QStringLiteral("--config-file"),
+                               QStringLiteral(DESKTOP_SOURCE_DIR "/openbox.xml")});
+    }
     // Only a window manager that is up answers this.
     const bool ready = QTest::qWaitFor(
         [this] { return !xdotool(QStringLiteral("get_num_desktops")).isNull(); }, TimeoutMs);
     return ready ? QString()
-                 : QLatin1String("openbox does not start: ") +
+                 : windowManager() + QLatin1String(" does not start: ") +
                        QString::fromLocal8Bit(m_windowManager.readAllStandardError());
 }
 

@@ -32,6 +32,9 @@ public:
     /** Starts both. Returns an empty text, or what went wrong and how to mend it. */
     QString start();
 
+    /** The window manager that the environment variable LMTEST_WM asks for: openbox or xfwm4. */
+    static QString windowManager();
+
     /** The environment in which programs find this desktop. */
     QProcessEnvironment environment() const { return m_environment; }
     /** Changes it for the programs that are started from now on. */

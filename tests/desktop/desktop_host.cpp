@@ -12,6 +12,7 @@
 #include "shapesscenario.h"
 #include "sliderscenario.h"
 #include "smallwidgetsscenario.h"
+#include "stackingscenario.h"
 #include "waitingscenario.h"
 
 #include <lmwidgets/framelessdialog.h>
@@ -300,6 +301,10 @@ QHash<QString, std::function<void()>> scenarios()
         {QStringLiteral("desktop-link"), runDesktopLink},
         {QStringLiteral("progress"), runProgress},
         {QStringLiteral("slider"), runSlider},
+        {QStringLiteral("stack"), runStack},
+        {QStringLiteral("stock"), runStock},
+        {QStringLiteral("stock-secondframe"), runStockOverSecondFrame},
+        {QStringLiteral("stock-box"), runStockOverBox},
         {QStringLiteral("switches"), runSwitches},
         {QStringLiteral("value"), runValueDialog},
         {QStringLiteral("balloon"), runBalloon},

@@ -168,5 +168,8 @@ void Reporter::obey(const QString &order, const QString &name)
         widget->move(20, 20);
     } else if (order == QLatin1String("close")) {
         widget->close();
+    } else if (order == QLatin1String("delete")) {
+        delete widget;
+        say(QLatin1String("deleted ") + name);
     }
 }

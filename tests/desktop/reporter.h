@@ -29,7 +29,8 @@ QT_END_NAMESPACE
  *
  * The questions are "where NAME", answered by "where NAME X Y W H" in global coordinates ("none"
  * for a widget that is not visible), "popup", answered in the same way for the popup that is open,
- * and "activate NAME", "close NAME", "move NAME" (to 20,20) and "quit", which are orders.
+ * and "activate NAME", "close NAME", "delete NAME" (answered by "deleted NAME"), "move NAME" (to 20,20) and
+ * "quit", which are orders.
  */
 class Reporter : public QObject
 {

@@ -64,6 +64,8 @@ def public_classes(headers):
 
 def check_result(folder, headers):
     problems = list(dead_links(folder / "html"))
+    if not (folder / "lmwidgets.qch").exists():
+        return problems + ["there is no lmwidgets.qch: apt-get install qhelpgenerator-qt5"]
     with sqlite3.connect("file:%s?mode=ro" % (folder / "lmwidgets.qch"), uri=True) as help_file:
         known = {row[0] for row in help_file.execute("select Name from IndexTable")}
     for name, header in public_classes(headers):

@@ -11,7 +11,8 @@ sees, says what it is:
 
 A block with a main() needs no comment: it is a program of its own. The blocks of one page make one file, in
 their order, in a namespace that is called like the page; the files are compiled by the build, and
-tst_howtos.cpp includes some of them and calls what is in them.
+tst_howtos.cpp includes some of them and calls what is in them. The code in the class comments of the headers is
+compiled too, with what classhost.h says that a host has.
 """
 
 import pathlib
@@ -91,18 +92,53 @@ class Page:
             self.identifier, "\n".join(self.parts), self.identifier)
 
 
+class ClassComments:
+    """The code between @code and @endcode in the headers: one file for all. Statements become the body of a
+    function of the class Host, which has what they name; classes stand in a namespace of their own."""
+
+    CODE = re.compile(r"^ *\* @code\n(.*?)^ *\* @endcode$", re.S | re.M)
+    # In its header the name is a pointer elsewhere, and an object in this one.
+    PARAMETERS = {"customlayertoolbutton": "const Layer &layer", "roundcheckbox": "Layer *layer"}
+
+    def __init__(self, headers, root):
+        self.parts = []
+        for header in headers:
+            text = header.read_text(encoding="utf-8")
+            for match in self.CODE.finditer(text):
+                code = re.sub(r"^ *\* ?", "", match.group(1), flags=re.M)
+                line = text.count("\n", 0, match.start(1)) + 1
+                self.add(header.stem, '#line %d "%s"\n%s' % (line, header.relative_to(root).as_posix(), code))
+
+    def add(self, name, code):
+        place = "%s_%d" % (name, len(self.parts))
+        if re.search(r"^class ", code, re.M):
+            self.parts.append("namespace %s {\n%s} // namespace %s\n" % (place, code, place))
+        else:
+            parameters = self.PARAMETERS.get(name, "")
+            self.parts.append("struct %s : Host\n{\nvoid run(%s)\n{\n%s}\n};\n" % (place, parameters, code))
+
+    def source(self):
+        return '#include "classhost.h"\n\nnamespace class_comments {\n\n%s\n} // namespace class_comments\n' % (
+            "\n".join(self.parts))
+
+
 def write(path, text):
     if not path.exists() or path.read_text(encoding="utf-8") != text:
         path.write_text(text, encoding="utf-8")
 
 
 def main():
-    """snippets.py ROOT OUTPUT PAGE...: writes the files and prints the names of those to compile."""
+    """snippets.py ROOT FOLDER PAGE...: writes the files of the pages and prints the names of those to compile.
+    snippets.py ROOT FILE HEADER...: writes the file of the class comments."""
     root, output = pathlib.Path(sys.argv[1]), pathlib.Path(sys.argv[2])
+    paths = [pathlib.Path(argument) for argument in sys.argv[3:]]
+    if output.suffix == ".cpp":
+        output.write_text(ClassComments(paths, root).source(), encoding="utf-8")
+        return
     output.mkdir(parents=True, exist_ok=True)
     sources = []
-    for argument in sys.argv[3:]:
-        page = Page(pathlib.Path(argument), root)
+    for path in paths:
+        page = Page(path, root)
         if page.parts:
             write(output / (page.identifier + ".inc"), page.source())
             name = page.identifier + ".cpp"

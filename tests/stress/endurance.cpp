@@ -8,10 +8,12 @@
 #include <QWidget>
 #include <QWindow>
 
+#include <cstddef>
 #include <cstdio>
 
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-#include <sanitizer/allocator_interface.h>
+// GCC does not install the header that declares it.
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
 #else
 #include <malloc.h>
 #endif
