@@ -9,6 +9,7 @@
 
 #include <QComboBox>
 #include <QHeaderView>
+#include <QItemSelectionModel>
 #include <QStandardItemModel>
 #include <QTableView>
 
@@ -86,6 +87,13 @@ QModelIndex cell(QWidget *shown, int row, int column)
     return static_cast<QTableView *>(shown)->model()->index(row, column);
 }
 
+/** Qt's selectRow() looks for a column beside the view when that is laid out from right to left. */
+void selectSecondRow(QWidget *shown)
+{
+    const auto flags = QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows;
+    static_cast<QTableView *>(shown)->selectionModel()->setCurrentIndex(cell(shown, 1, 0), flags);
+}
+
 /** The states of the items of a view that @p create makes. */
 QVector<State> itemStates(const Create &create)
 {
@@ -98,12 +106,12 @@ QVector<State> itemStates(const Create &create)
              }},
             {QStringLiteral("selected"), create,
              [](QWidget *shown) {
-                 static_cast<QTableView *>(shown)->selectRow(1);
+                 selectSecondRow(shown);
                  return shown;
              }},
             {QStringLiteral("selected and focused"), create,
              [](QWidget *shown) {
-                 static_cast<QTableView *>(shown)->selectRow(1);
+                 selectSecondRow(shown);
                  return focus(shown);
              }},
             {QStringLiteral("disabled"), disabled(create), nullptr}};
