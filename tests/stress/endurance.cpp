@@ -175,5 +175,13 @@ bool endure(const QString &what, const Duration &duration, const Allowance &allo
             .arg(double(timer.elapsed()) / done, 0, 'f', 2)
             .arg(figures(before, after))
             .arg(warnings - warningsBefore));
+    if (!good) {
+        const QWidgetList left = QApplication::topLevelWidgets();
+        for (const QWidget *window : left) {
+            say(QStringLiteral("        a window is there: %1 \"%2\" with %3 children")
+                    .arg(QLatin1String(window->metaObject()->className()), window->objectName())
+                    .arg(window->findChildren<QWidget *>().size()));
+        }
+    }
     return good;
 }

@@ -2,6 +2,7 @@
 
 #include "endurance.h"
 
+#include "language.h"
 #include "mainwindow.h"
 #include "page.h"
 #include "themes.h"
@@ -112,7 +113,8 @@ void weather(const StormPlan &plan, int round)
     }
     QToolTip::hideText();
     QApplication::clipboard()->clear();
-    QApplication::setLayoutDirection(Qt::LeftToRight);
+    gallery::setLanguage(QStringLiteral("en"));
+    gallery::setRightToLeft(false);
     TalvoStyleManager::instance()->shiftStyle(TalvoStyleManager::Black);
     if (warningCount() != warningsBefore) {
         say(QStringLiteral("        the warnings came in round %1, page %2; again by "
