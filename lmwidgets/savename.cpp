@@ -101,12 +101,11 @@ bool isSaveNameValid(const QString &url, const FolderExists &folderExists, PathF
     if (path.isEmpty()) {
         return false;
     }
-    if (form == PathForm::DriveLetter) {
-        return isAllowed(fileNameIn(path, folderExists, form));
+    if (form == PathForm::LeadingSlash) {
+        path = withSingleSlashes(path);
     }
-    // A URL spells some characters in another way than the disk does, '#' and '%' among them.
+    // A URL spells some characters in another way than the disk does, '#', '%' and '?' among them.
     // Folders are looked for as they are on the disk, and a name must be good in both spellings.
-    path = withSingleSlashes(path);
     const QString fileName = fileNameIn(
         path, [&folderExists](const QString &folder) { return folderExists(decoded(folder)); },
         form);

@@ -137,12 +137,17 @@ void tst_ButtonLeftHaveGreenDots::colorDoesNotRepaint()
     button.show();
     QVERIFY(QTest::qWaitForWindowExposed(&button));
     QTRY_VERIFY(button.paints > 0);
-    QCoreApplication::processEvents();
+    // The window system may ask for a late picture of the new window, but not at every colour.
+    int hue = 0;
+    const auto paintsNothing = [&button, &hue] {
+        const int before = button.paints;
+        button.setShowDotColor(QColor::fromHsv(++hue % 360, 255, 255));
+        QCoreApplication::sendPostedEvents();
+        QCoreApplication::processEvents();
+        return button.paints == before;
+    };
+    QTRY_VERIFY(paintsNothing());
     const int before = button.paints;
-    button.setShowDotColor(Qt::red);
-    QCoreApplication::sendPostedEvents();
-    QCoreApplication::processEvents();
-    QCOMPARE(button.paints, before);
     button.update();
     QTRY_COMPARE(button.paints, before + 1);
 }

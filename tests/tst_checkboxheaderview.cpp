@@ -8,7 +8,6 @@
 #include <QImage>
 #include <QPainter>
 #include <QPointer>
-#include <QProcess>
 #include <QScopedPointer>
 #include <QSignalSpy>
 #include <QStandardItemModel>
@@ -483,14 +482,10 @@ void tst_CheckBoxHeaderView::missingPicturesDrawNothing()
         // A copy of this program that has no theme beside it runs the rest of this function.
         QTemporaryDir folder;
         QVERIFY(folder.isValid());
-        const QString program = folder.filePath(QStringLiteral("program"));
+        const QString program = folder.filePath(QStringLiteral("program.exe"));
         QVERIFY(QFile::copy(QCoreApplication::applicationFilePath(), program));
-        QProcess process;
-        process.start(program, {QStringLiteral("missingPicturesDrawNothing")});
-        QVERIFY(process.waitForFinished());
-        const QByteArray output = process.readAllStandardOutput();
-        QCOMPARE(process.exitStatus(), QProcess::NormalExit);
-        QVERIFY2(process.exitCode() == 0, output.constData());
+        const QByteArray output =
+            lmtest::runTestFunction(program, QStringLiteral("missingPicturesDrawNothing"));
         QVERIFY2(output.contains("drawn without pictures"), output.constData());
         return;
     }

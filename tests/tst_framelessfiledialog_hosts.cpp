@@ -433,6 +433,9 @@ void tst_FramelessFileDialogHosts::vanishingFile()
 
 void tst_FramelessFileDialogHosts::unreadableDirectory()
 {
+#ifdef Q_OS_WIN
+    QSKIP("Windows keeps the rights of a folder in a list that QFile does not write");
+#endif
     const QString path = m_folder.file(QStringLiteral("locked"));
     QVERIFY(QDir().mkdir(path));
     QFile inner(path + QStringLiteral("/inner.las"));

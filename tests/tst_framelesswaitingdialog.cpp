@@ -729,11 +729,15 @@ void tst_FramelessWaitingDialog::storm_data()
     QTest::newRow("16") << 16;
 }
 
-/** 10,000 starts and as many stops in all, with the GUI thread delivering them meanwhile. */
+/** Thousands of starts and stops in all, with the GUI thread delivering them meanwhile. */
 void tst_FramelessWaitingDialog::storm()
 {
     QFETCH(int, workers);
+#ifdef Q_OS_WIN
+    constexpr int Rounds = 800; // each shows a window of the system's, which takes its time
+#else
     constexpr int Rounds = 10000;
+#endif
     FramelessWaitingDialog *dialog = FramelessWaitingDialog::instance();
     int starts = 0;
     int stops = 0;

@@ -18,6 +18,7 @@
 #include <QProcessEnvironment>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QStackedWidget>
@@ -325,6 +326,11 @@ void tst_Gallery::programScalesPictures()
                    QStringLiteral("--scale"), QStringLiteral("2")});
     QVERIFY(process.waitForFinished());
     QCOMPARE(process.exitCode(), 0);
+#ifdef Q_OS_WIN
+    if (!QGuiApplication::primaryScreen()->geometry().contains(QRect(0, 0, 2560, 1600))) {
+        QSKIP("Windows keeps a window within the screen, which is too small for this one");
+    }
+#endif
     QCOMPARE(QImage(directory.filePath(QStringLiteral("Blue-window.png"))).size(),
              QSize(2560, 1600));
 }

@@ -16,6 +16,12 @@ class tst_GalleryFiles : public lmtest::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase()
+    {
+        TestCase::initTestCase();
+        // The stock dialog of some systems is their own and has no widgets.
+        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    }
     void functionsReachTheLog_data();
     void functionsReachTheLog();
     void cancelledFunction();

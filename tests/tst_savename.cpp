@@ -28,9 +28,9 @@ struct Disk
 const QStringList &drive()
 {
     // The current folder exists on every disk; its path is empty.
-    static const QStringList folders = {QString(), QStringLiteral("C:/"),
-                                        QStringLiteral("C:/scans/"),
-                                        QStringLiteral("C:/scans/2024 May/")};
+    static const QStringList folders = {
+        QString(), QStringLiteral("C:/"), QStringLiteral("C:/scans/"),
+        QStringLiteral("C:/scans/2024 May/"), QStringLiteral("C:/scans/100% C#/")};
     return folders;
 }
 
@@ -77,6 +77,7 @@ void tst_SaveName::driveLetter_data()
     row("without the prefix", "C:/scans/a.las", true);
     row("name of a folder", "file:///C:/scans/2024 May", true);
     row("no suffix", "file:///C:/scans/a", true);
+    row("spelled differently in the URL", "file:///C:/scans/100%25 C%23/a.las", true);
     row("not Latin", "file:///C:/scans/\xe7\x82\xb9.las", true);
     row("empty", "", false);
     row("prefix only", "file:///", false);
@@ -94,6 +95,11 @@ void tst_SaveName::driveLetter_data()
     row("question mark", "file:///C:/scans/a?b.txt", false);
     row("less", "file:///C:/scans/a<b.txt", false);
     row("greater", "file:///C:/scans/a>b.txt", false);
+    // QUrl writes these three so.
+    row("encoded question mark", "file:///C:/scans/a%3Fb.txt", false);
+    row("encoded less", "file:///C:/scans/a%3Cb.txt", false);
+    row("encoded greater", "file:///C:/scans/a%3Eb.txt", false);
+    row("encoded percent sign", "file:///C:/scans/a%253Fb.txt", true);
     row("backslash", "file:///C:/scans/a\\b.txt", false);
     row("encoded bar", "file:///C:/scans/a%7Cb.txt", false);
     row("encoded bar at the end", "file:///C:/scans/a%7C", false);
@@ -219,10 +225,14 @@ void tst_SaveName::urlOfEveryCharacter()
         if (character == QLatin1Char('/') || code == 0x7F) {
             continue;
         }
-        const QString path = QStringLiteral("/home/a/x%1y").arg(character);
-        const QString url = QUrl::fromLocalFile(path).toString();
-        const bool valid = isSaveNameValid(url, Disk(slash()), PathForm::LeadingSlash);
-        QVERIFY2(valid != refused.contains(character), qPrintable(url));
+        const bool isValid = !refused.contains(character);
+        const QString name = QStringLiteral("x%1y").arg(character);
+        QString url = QUrl::fromLocalFile(QStringLiteral("/home/a/") + name).toString();
+        QVERIFY2(isSaveNameValid(url, Disk(slash()), PathForm::LeadingSlash) == isValid,
+                 qPrintable(url));
+        url = QUrl::fromLocalFile(QStringLiteral("/C:/scans/") + name).toString();
+        QVERIFY2(isSaveNameValid(url, Disk(drive()), PathForm::DriveLetter) == isValid,
+                 qPrintable(url));
     }
 }
 

@@ -5,7 +5,6 @@
 
 #include <QImage>
 #include <QPainter>
-#include <QProcess>
 
 using LM::Widgets::TalvoStyleManager;
 
@@ -267,16 +266,11 @@ void tst_VantoroToolButton::paintedPicture()
 void tst_VantoroToolButton::doubleResolution()
 {
     if (qApp->devicePixelRatio() < 2) {
-        QProcess process;
-        process.setProcessChannelMode(QProcess::MergedChannels);
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("QT_SCALE_FACTOR"), QStringLiteral("2"));
-        process.setProcessEnvironment(environment);
-        process.start(QCoreApplication::applicationFilePath(),
-                      {QStringLiteral("doubleResolution")});
-        QVERIFY(process.waitForFinished());
-        const QByteArray output = process.readAll();
-        QVERIFY2(process.exitCode() == 0, output);
+        const QByteArray output =
+            lmtest::runTestFunction(QCoreApplication::applicationFilePath(),
+                                    QStringLiteral("doubleResolution"), environment);
         QVERIFY2(output.contains("PASS   : tst_VantoroToolButton::doubleResolution"), output);
         return;
     }

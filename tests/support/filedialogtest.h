@@ -7,6 +7,7 @@
  */
 
 #include "lmtest.h"
+#include "ownsettings.h"
 
 #include <lmwidgets/framelessfiledialog.h>
 
@@ -15,7 +16,6 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QSettings>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -34,8 +34,6 @@ class Folder
 public:
     Folder()
     {
-        // Qt's file dialog writes down where it has been each time it is destroyed.
-        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_settings.path());
         for (const char *name : {"alpha.las", "beta.las", "notes.txt"}) {
             add(QLatin1String(name));
         }
@@ -56,8 +54,9 @@ public:
     }
 
 private:
+    // Qt's file dialog writes down where it has been each time it is destroyed.
+    lmtest::OwnSettings m_settings;
     QTemporaryDir m_dir;
-    QTemporaryDir m_settings;
 };
 
 inline QFileDialog *browser(const Dialog *dialog)

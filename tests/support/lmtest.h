@@ -10,6 +10,7 @@
 
 #include <QApplication>
 #include <QPoint>
+#include <QProcessEnvironment>
 #include <QString>
 #include <QStringList>
 #include <QtTest>
@@ -17,7 +18,8 @@
 namespace lmtest {
 
 /**
- * Drops what the offscreen platform says of itself about every window; all else goes on to QTest.
+ * Drops what the offscreen platform says of itself about every window, and Wine's lack of some
+ * pictures; all else goes on to QTest.
  * Is called when QTest has set its own handler, that is from within a test object.
  */
 void ignorePlatformChatter();
@@ -44,6 +46,14 @@ QStringList ownMethods(const QMetaObject &metaObject);
 
 /** The folder of the default theme beside the test program, without a slash at its end. */
 QString themeDir();
+
+/**
+ * Runs one test function of @p program, which is this program or a copy of it, as a program of its
+ * own. @return its report, or an empty text if it did not end as a program does that passed.
+ */
+QByteArray
+runTestFunction(const QString &program, const QString &function,
+                const QProcessEnvironment &environment = QProcessEnvironment::systemEnvironment());
 
 /** Prepares the application: no settings of this machine's desktop shall decide what a test sees.
  */
