@@ -15,6 +15,7 @@
 #include <QFile>
 #include <QFormLayout>
 #include <QHeaderView>
+#include <QImage>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMovie>
@@ -41,6 +42,7 @@ constexpr int PictureEdge = 20;
 constexpr int MovieFrame = 9;
 constexpr int ReadingLimit = 5000; // ms
 constexpr int EventSlice = 20;     // ms
+constexpr int LongestPause = 300;  // ms
 constexpr QSize TableSize(430, 150);
 constexpr QSize FileDialogSize(560, 380);
 constexpr QSize BalloonSize(220, 84);
@@ -273,6 +275,22 @@ QWidget *toggleSwitch()
     auto *off = switched<ToggleSwitch>(false);
     off->setText(QStringLiteral("Vegetation"));
     return stage({on, off});
+}
+
+/** The knob slides for a quarter of a second, longer on a busy machine. */
+void arrive(QWidget *window)
+{
+    QElapsedTimer sinceChange;
+    sinceChange.start();
+    QImage former;
+    waitFor([&] {
+        const QImage picture = window->grab().toImage();
+        if (picture != former) {
+            former = picture;
+            sinceChange.restart();
+        }
+        return sinceChange.hasExpired(LongestPause);
+    });
 }
 
 QWidget *roundCheckBox()
@@ -607,7 +625,7 @@ QVector<Portrait> portraits()
         {QStringLiteral("talvosplashscreen"), splashScreen},
         {QStringLiteral("talvotriangledlg"), balloon},
         {QStringLiteral("titlebar"), titleBar},
-        {QStringLiteral("toggleswitch"), toggleSwitch},
+        {QStringLiteral("toggleswitch"), toggleSwitch, arrive},
         {QStringLiteral("vantoroframelessdialog"), vantoroDialog},
         {QStringLiteral("vantorotoolbutton"), toolButtons},
     };

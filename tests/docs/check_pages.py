@@ -23,7 +23,7 @@ ELSEWHERE = (
     "theme/qssimage/waiting.gif",
 )
 LINK = re.compile(r"!?\[[^]]*\]\(([^)\s]+)\)")
-MAIN = "#include <lmwidgets/lmwidgets.h>\n\nint main()\n{\n    return LM::Widgets::TalvoStyleManager::instance() ? 0 : 1;\n}\n"
+MAIN = "#include <lmwidgets/talvostylemanager.h>\n\nint main()\n{\n    return LM::Widgets::TalvoStyleManager::instance() ? 0 : 1;\n}\n"
 
 
 def prose(page):
@@ -99,7 +99,8 @@ class CMakeBlocks:
             if block.language != "cmake":
                 continue
             folder = self.project(block, main)
-            steps = [("cmake", "-S", folder, "-B", folder / "build", "-G", "Ninja",
+            launcher = ("-DCMAKE_CXX_COMPILER_LAUNCHER=ccache",) if shutil.which("ccache") else ()
+            steps = [("cmake", "-S", folder, "-B", folder / "build", "-G", "Ninja", *launcher,
                       "-DCMAKE_PREFIX_PATH=%s" % self.prefix, "-DCMAKE_INSTALL_PREFIX=%s" % (folder / "installed"))]
             if "find_package(lmwidgets" in block.text:
                 steps.append(("cmake", "--build", folder / "build"))
