@@ -59,8 +59,11 @@ if(LMWIDGETS_GZIP AND UNIX)
     configure_file(cmake/package/changelog.in "${changelog}" @ONLY)
     execute_process(
         COMMAND "${LMWIDGETS_GZIP}" -9nf "${changelog}"
-        COMMAND_ERROR_IS_FATAL ANY
+        RESULT_VARIABLE lmwidgets_gzip_result
     )
+    if(NOT lmwidgets_gzip_result EQUAL 0)
+        message(FATAL_ERROR "lmwidgets: the changelog of the package could not be compressed")
+    endif()
     foreach(pair runtime:${lmwidgets_runtime_package} dev:liblmwidgets-dev)
         string(REPLACE ":" ";" pair "${pair}")
         list(GET pair 0 component)

@@ -13,6 +13,7 @@
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QDesktopServices>
+#include <QDesktopWidget>
 #include <QDialog>
 #include <QFileDialog>
 #include <QTimer>
@@ -134,6 +135,8 @@ bool stressStorm(const StormPlan &plan)
     }
     gallery::followTheme();
     const NoDesktop noDesktop;
+    // Qt makes widgets for the screens when it first needs them, and keeps them.
+    QApplication::desktop()->screen();
     say(QStringLiteral("        the storm's seed is %1").arg(plan.seed));
     // What a text field remembers for undoing, and what fonts and styles keep, varies.
     Allowance allowance;
