@@ -24,7 +24,7 @@ namespace {
 
 constexpr int sizes[] = {1000, 10000, 100000};
 constexpr int goalSize = 10000;
-constexpr int rounds = 5;
+constexpr int rounds = 3;
 constexpr int cheapRounds = 15;
 constexpr int lookups = 1000;
 constexpr int openings = 5;

@@ -145,16 +145,16 @@ void benchShown()
         Stock stock(size.count);
         ours.show();
         stock.show();
-        const int repetitions = qMax(5, 1000 / size.count);
+        const int repetitions = qMax(2, 1000 / size.count);
         const bench::Comparison both =
             bench::compare(repeated(&ours, repetitions, &Ours::place),
-                           repeated(&stock, repetitions, &Stock::place), 5);
+                           repeated(&stock, repetitions, &Stock::place), 3);
         bench::printLine(QStringLiteral("flow layout: setGeometry, %1 items").arg(size.count), both,
                          repetitions, size.goal);
         bench::printLine(
             QStringLiteral("flow layout: setGeometry, %1 items, room for the grid").arg(size.count),
             bench::compare(repeated(&ours, repetitions, &Ours::placeWithRoom),
-                           repeated(&stock, repetitions, &Stock::placeWithRoom), 5),
+                           repeated(&stock, repetitions, &Stock::placeWithRoom), 3),
             repetitions);
         growth.append({double(size.count), both.ours / repetitions});
         stockGrowth.append({double(size.count), both.stock / repetitions});

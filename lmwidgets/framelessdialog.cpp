@@ -135,12 +135,20 @@ void FramelessDialogPrivate::createHelper()
 }
 
 FramelessDialog::FramelessDialog(QWidget *parent, Qt::WindowFlags flags)
+    : FramelessDialog(QString(), parent, flags)
+{
+}
+
+FramelessDialog::FramelessDialog(const QString &styleSheet, QWidget *parent, Qt::WindowFlags flags)
     : TalvoDialogBase(parent, flags | Qt::BypassWindowManagerHint),
       d(new FramelessDialogPrivate(this))
 {
     setWindowFlags(windowFlags() | Qt::FramelessWindowHint);
     setAttribute(Qt::WA_TranslucentBackground);
     setProperty("isFramelessDialog", true);
+    if (!styleSheet.isEmpty()) {
+        setStyleSheet(styleSheet);
+    }
 
     d->createTitleBar();
     if (const QScreen *screen = QGuiApplication::primaryScreen()) {

@@ -198,6 +198,12 @@ public Q_SLOTS:
     void swithMaxNormal();
 
 protected:
+    /**
+     * Constructs a dialog with @p styleSheet for a subclass that gives itself one. It is the same
+     * as setStyleSheet() later, but costs less while the dialog has no children to tell of it.
+     */
+    FramelessDialog(const QString &styleSheet, QWidget *parent, Qt::WindowFlags flags);
+
     /** OK was clicked. This one accepts the dialog. */
     virtual void onOk();
     /** Cancel was clicked. This one rejects the dialog. */

@@ -239,7 +239,8 @@ QAbstractButton *FramelessMessageBoxPrivate::buttonForKey(const QKeyEvent *event
 }
 
 FramelessMessageBox::FramelessMessageBox(QWidget *parent)
-    : FramelessDialog(parent, FrameFlags), d(new FramelessMessageBoxPrivate(this))
+    : FramelessDialog(QLatin1String(MessageBoxStyle), parent, FrameFlags),
+      d(new FramelessMessageBoxPrivate(this))
 {
     setMinimumWidth(BoxWidth);
     d->init(QString(), QString());
@@ -249,7 +250,8 @@ FramelessMessageBox::FramelessMessageBox(QWidget *parent)
 FramelessMessageBox::FramelessMessageBox(QMessageBox::Icon icon, const QString &title,
                                          const QString &text, QMessageBox::StandardButtons buttons,
                                          QWidget *parent, Qt::WindowFlags f)
-    : FramelessDialog(parent, f | FrameFlags | Qt::BypassWindowManagerHint),
+    : FramelessDialog(QLatin1String(MessageBoxStyle), parent,
+                      f | FrameFlags | Qt::BypassWindowManagerHint),
       d(new FramelessMessageBoxPrivate(this))
 {
     setMinimumSize(BoxWidth, BoxHeight);

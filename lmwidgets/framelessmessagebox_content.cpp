@@ -38,8 +38,6 @@ constexpr int ButtonSpacing = 16;
 constexpr int DetailsGap = 8;
 constexpr int IconExtent = 16;
 
-const char BoxStyle[] =
-    "background:#2B2B2B;color:#ffffff;QDialog#globa_pMessageBox{border: 1px solid #585858;}";
 const char FirstLabelStyle[] = "QLabel{background-color:transparent;font-size:14px;}";
 const char LabelStyle[] = "font-size:14px;";
 // The blanks inside "background - color" make Qt skip that one declaration; hosts compare the text.
@@ -207,7 +205,7 @@ void FramelessMessageBoxPrivate::setupLayout()
 
     setupBottomRow();
     q->setLayout(content);
-    ensureStyleSheet(q, BoxStyle);
+    ensureStyleSheet(q, MessageBoxStyle);
     installShadow();
     updateDetailsCaption();
     updateSize();

@@ -29,6 +29,9 @@ namespace Widgets {
 
 class FramelessMessageBox;
 
+constexpr char MessageBoxStyle[] =
+    "background:#2B2B2B;color:#ffffff;QDialog#globa_pMessageBox{border: 1px solid #585858;}";
+
 /** What the caller of a static function asks for. */
 struct MessageBoxQuestion
 {
