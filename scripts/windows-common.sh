@@ -52,6 +52,11 @@ restart_wine() {
     wine_server -w
 }
 
+stop_wine() {
+    restart_wine
+    rm -rf "$WINEPREFIX"
+}
+
 # use_qt FOLDER [PROGRAMS]: what a program finds without having it beside itself.
 use_qt() {
     local compiler

@@ -323,7 +323,14 @@ void tst_FramelessFileDialogStatic::selectedFilter()
         whenShown([](Dialog *shown) {
             QTest::keyClick(shown->findChild<QComboBox *>(QStringLiteral("fileTypeCombo")),
                             Qt::Key_Down);
-            enter(shown, QStringLiteral("notes.txt"));
+            QCOMPARE(shown->selectedNameFilter(), QStringLiteral("All (*)"));
+            // Qt lists the files anew in another thread, and looks for a name as it is written.
+            QVERIFY(QTest::qWaitFor([shown] {
+                nameEdit(shown)->clear();
+                nameEdit(shown)->setText(QStringLiteral("notes.txt"));
+                return acceptButton(shown)->isEnabled();
+            }));
+            QTest::mouseClick(acceptButton(shown), Qt::LeftButton);
         });
         QCOMPARE(call(which, &parent, m_folder.url(), QFileDialog::Options(), &filter),
                  QList<QUrl>({m_folder.url(QStringLiteral("notes.txt"))}));
@@ -447,9 +454,13 @@ void tst_FramelessFileDialogStatic::saveIsAccepted_data()
     for (const char *name :
          {"plain", "two words.las", "100%.las", "a%7Cb.las", "a%7cb.las", "c#.las", "a;b&c=d.las",
           "\xe7\x82\xb9\xe4\xba\x91.las", "'quoted'.las", "[1]{2}.las", "7c.las", "sub/a.las",
-          "50% #1/a.las", "50% #1//a.las", "sub/../a.las"}) {
+          "50% #1/a.las", "sub/../a.las"}) {
         QTest::newRow(name) << QString::fromUtf8(name);
     }
+#ifndef Q_OS_WIN
+    // With drives in its paths a system takes the second slash for a part of the name.
+    QTest::newRow("two slashes") << QStringLiteral("50% #1//a.las");
+#endif
 }
 
 void tst_FramelessFileDialogStatic::saveIsAccepted()
